@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "GalleryPages.h"
+
+#include <QLabel>
+
+namespace {
+
+// A page whose widgets have not been built yet says so instead of staying blank.
+QWidget *placeholderPage(const QString &name)
+{
+    auto *label = new QLabel(QObject::tr("The %1 page is not built yet.").arg(name));
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+GalleryPage placeholder(const QString &name)
+{
+    return {name, [name] { return placeholderPage(name); }};
+}
+
+} // namespace
+
+QList<GalleryPage> galleryPages()
+{
+    return {
+        placeholder(QObject::tr("Values")),
+        placeholder(QObject::tr("Drawing")),
+        placeholder(QObject::tr("Tables")),
+        placeholder(QObject::tr("Controls")),
+        placeholder(QObject::tr("Windows")),
+        placeholder(QObject::tr("Dates")),
+        placeholder(QObject::tr("Speech")),
+    };
+}

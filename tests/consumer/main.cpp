@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNRect.h>
+#include <Brixel/ZARNSystemVersion.h>
+
+#include <QApplication>
+#include <QLabel>
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    const ZARNRect rect(1, 2, 3, 4);
+    QLabel label(QStringLiteral("Brixel %1").arg(ZARNSystemVersion(), 0, 16));
+    label.show();
+    return rect.flipped(10).flipped(10) == rect && ZARNSystemVersion() >= 0x1050 ? 0 : 1;
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNLocalizedString.h>
+
+#include <QCoreApplication>
+#include <QTest>
+#include <QTranslator>
+
+namespace {
+// Stands in for an application's own translation of the library's words.
+class HoursTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        if (qstrcmp(context, ZARNLocalizedStringContext) == 0 && qstrcmp(source, "hours") == 0)
+            return QStringLiteral("Stunden");
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+};
+} // namespace
+
+class TestLocalizedString : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void missingEntryReturnsKey();
+    void applicationTranslatorIsUsed();
+    void unknownLanguageLoadsNothing();
+};
+
+void TestLocalizedString::missingEntryReturnsKey()
+{
+    QCOMPARE(ZARNLocalizedString("minutes"), QStringLiteral("minutes"));
+    QCOMPARE(ZARNLocalizedString(""), QString());
+    QCOMPARE(ZARNLocalizedString(nullptr), QString());
+}
+
+void TestLocalizedString::applicationTranslatorIsUsed()
+{
+    HoursTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
+    QCOMPARE(ZARNLocalizedString("days"), QStringLiteral("days"));
+    QCoreApplication::removeTranslator(&translator);
+    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("hours"));
+}
+
+void TestLocalizedString::unknownLanguageLoadsNothing()
+{
+    QVERIFY(!ZARNLoadTranslations(QLocale(QLocale::Zulu)));
+    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("hours"));
+}
+
+QTEST_GUILESS_MAIN(TestLocalizedString)
+#include "tst_localizedstring.moc"

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNSystemVersion.h>
+
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+class TestSystemVersion : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void newestIsAboveEveryThreshold();
+    void parse_data();
+    void parse();
+    void startupCode_data();
+    void startupCode();
+    void setterNotifiesOnlyChanges();
+};
+
+void TestSystemVersion::newestIsAboveEveryThreshold()
+{
+    for (const quint32 threshold : {0x101Fu, 0x1030u, 0x103Fu, 0x1040u, 0x104Fu, 0x1050u})
+        QVERIFY(ZARNSystemVersionNewest > threshold);
+}
+
+void TestSystemVersion::parse_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<quint32>("code");
+
+    QTest::newRow("with prefix") << QStringLiteral("0x1039") << 0x1039u;
+    QTest::newRow("upper-case prefix and digits") << QStringLiteral("0X104F") << 0x104Fu;
+    QTest::newRow("without prefix") << QStringLiteral("1028") << 0x1028u;
+    QTest::newRow("blanks around") << QStringLiteral("  0x1040 ") << 0x1040u;
+    QTest::newRow("empty") << QString() << 0u;
+    QTest::newRow("prefix alone") << QStringLiteral("0x") << 0u;
+    QTest::newRow("not hexadecimal") << QStringLiteral("10.3.9") << 0u;
+    QTest::newRow("wider than 32 bits") << QStringLiteral("0x100000000") << 0u;
+    QTest::newRow("negative") << QStringLiteral("-0x1039") << 0u;
+}
+
+void TestSystemVersion::parse()
+{
+    QFETCH(QString, text);
+    QFETCH(quint32, code);
+    QCOMPARE(brixel::parseSystemVersionCode(text), code);
+}
+
+void TestSystemVersion::startupCode_data()
+{
+    QTest::addColumn<QString>("variable");
+    QTest::addColumn<QString>("printed");
+
+    QTest::newRow("unset") << QString() << QStringLiteral("1060");
+    QTest::newRow("classic look") << QStringLiteral("0x1039") << QStringLiteral("1039");
+    QTest::newRow("malformed falls back") << QStringLiteral("tiger") << QStringLiteral("1060");
+}
+
+// The variable is read once per process, so each case starts a fresh one.
+void TestSystemVersion::startupCode()
+{
+    QFETCH(QString, variable);
+    QFETCH(QString, printed);
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("BRIXEL_SYSTEM_VERSION"));
+    if (!variable.isNull())
+        environment.insert(QStringLiteral("BRIXEL_SYSTEM_VERSION"), variable);
+    QProcess probe;
+    probe.setProcessEnvironment(environment);
+    probe.start(QStringLiteral(PROBE_PATH), {});
+    QVERIFY(probe.waitForFinished());
+    QCOMPARE(QString::fromLatin1(probe.readAllStandardOutput()).trimmed(), printed);
+}
+
+void TestSystemVersion::setterNotifiesOnlyChanges()
+{
+    QSignalSpy spy(ZARNSystemVersionNotifier::instance(), &ZARNSystemVersionNotifier::systemVersionChanged);
+    ZARNSetSystemVersion(0x1039);
+    ZARNSetSystemVersion(0x1039);
+    QCOMPARE(ZARNSystemVersion(), 0x1039u);
+    ZARNSetSystemVersion(ZARNSystemVersionNewest);
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(spy.at(0).at(0).value<quint32>(), 0x1039u);
+}
+
+QTEST_GUILESS_MAIN(TestSystemVersion)
+#include "tst_systemversion.moc"

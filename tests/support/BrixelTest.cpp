@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "BrixelTest.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QLayout>
+#include <QPainter>
+#include <QWidget>
+
+namespace brixeltest {
+
+void useTestFont()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPointSizeF(10);
+    QApplication::setFont(font);
+}
+
+QImage renderWidget(QWidget &widget)
+{
+    widget.ensurePolished();
+    if (auto *layout = widget.layout())
+        layout->activate();
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image);
+    return image;
+}
+
+bool colorsClose(const QColor &actual, const QColor &expected, int tolerance)
+{
+    return qAbs(actual.red() - expected.red()) <= tolerance
+        && qAbs(actual.green() - expected.green()) <= tolerance
+        && qAbs(actual.blue() - expected.blue()) <= tolerance
+        && qAbs(actual.alpha() - expected.alpha()) <= tolerance;
+}
+
+QColor colorAt(const QImage &image, QPoint point)
+{
+    if (!image.valid(point))
+        return {};
+    return image.pixelColor(point);
+}
+
+} // namespace brixeltest

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPoint>
+
+class QWidget;
+
+/**
+ * Helpers shared by the widget tests: render what a user would see and look at its pixels.
+ */
+namespace brixeltest {
+
+/// Gives the application the DejaVu Sans font the tests' text measurements assume.
+void useTestFont();
+
+/// Lays out and renders \a widget (and its children) into an ARGB32 premultiplied image of
+/// the widget's size, the way it would appear on screen.
+QImage renderWidget(QWidget &widget);
+
+/// True when each channel of \a actual is within \a tolerance of \a expected (0..255 scale).
+bool colorsClose(const QColor &actual, const QColor &expected, int tolerance = 2);
+
+/// The colour at \a point, or an invalid colour when the point lies outside the image.
+QColor colorAt(const QImage &image, QPoint point);
+
+} // namespace brixeltest
