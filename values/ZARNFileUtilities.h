@@ -49,7 +49,8 @@ BRIXEL_EXPORT QString ZARNTempFileName();
  * Letters compare without regard to case ("a" and "A" are the same) and runs of the digits
  * 0-9 compare as whole numbers ("File 2" before "File 10"; leading zeros do not count, so
  * "File 01" and "File 1" are the same); everything else compares by UTF-16 code unit after
- * case folding. The order does not depend on the locale. A null \a a or \a b gives 0.
+ * simple case folding (one character for one: "ς" and "Σ" are the same, "ß" and "SS" are not).
+ * The order does not depend on the locale. A null \a a or \a b gives 0.
  */
 BRIXEL_EXPORT int ZARNCompareDirectoryContents(const QString &a, const QString &b);
 
