@@ -28,13 +28,9 @@ void TestNetworkInterfaces::defaultRoute_data()
                      "eth1\t00000000\t010200C0\t0003\t0\t0\t100\t00000000\t0\t0\t0\n"
                      "tun0\t00000000\t00000000\t0003\t0\t0\t1A\t00000000\t0\t0\t0\n"
         << u"eth1"_s;
-    QTest::newRow("equal metrics keep the first") << heading + "a0\t00000000\t0\t0003\t0\t0\t5\t00000000\t0\t0\t0\n"
-                                                               "b0\t00000000\t0\t0003\t0\t0\t5\t00000000\t0\t0\t0\n"
-                                                  << u"a0"_s;
     QTest::newRow("route that is down") << heading + "eth0\t00000000\t010200C0\t0002\t0\t0\t0\t00000000\t0\t0\t0\n" << QString();
     QTest::newRow("zero destination with a mask") << heading + "eth0\t00000000\t0\t0001\t0\t0\t0\t000000FF\t0\t0\t0\n"
                                                   << QString();
-    QTest::newRow("heading alone") << heading << QString();
     QTest::newRow("truncated line") << QByteArray("eth0\t00000000\t010200C0\t0003\n") << QString();
     QTest::newRow("empty") << QByteArray() << QString();
 }
