@@ -24,7 +24,7 @@ QList<GalleryPage> galleryPages()
 {
     return {
         placeholder(QObject::tr("Values")),
-        placeholder(QObject::tr("Drawing")),
+        {QObject::tr("Drawing"), createDrawingPage},
         placeholder(QObject::tr("Tables")),
         placeholder(QObject::tr("Controls")),
         placeholder(QObject::tr("Windows")),

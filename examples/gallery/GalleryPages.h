@@ -15,5 +15,8 @@ struct GalleryPage
     std::function<QWidget *()> create;
 };
 
+/// The pages built so far; each shows one layer of the library.
+QWidget *createDrawingPage();
+
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();

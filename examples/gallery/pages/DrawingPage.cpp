@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The Drawing page: rounded paths by rounding style, a gradient band, a nine-slice frame
+// stretched live, badges and recolouring.
+#include "../GalleryPages.h"
+
+#include <Brixel/NSBezierPath_Category.h>
+#include <Brixel/ZARNImageComposition.h>
+#include <Brixel/ZARNShading.h>
+
+#include <QColorDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+#include <QVBoxLayout>
+
+namespace {
+
+// Every combination of the four edge bits, each shape labelled with its style value.
+class RoundingStylesView : public QWidget
+{
+public:
+    RoundingStylesView() { setMinimumSize(360, 200); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QSizeF cell(width() / 8.0, height() / 2.0);
+        for (unsigned int index = 0; index < 16; ++index) {
+            const unsigned int style = index * 2;
+            const QPointF corner((index % 8) * cell.width(), (index / 8) * cell.height());
+            const ZARNRect shape(6, 6, float(cell.width() - 12), float(cell.height() - 30));
+            painter.save();
+            // Paths are built y-up; the cell's bottom edge is its origin.
+            painter.translate(corner.x(), corner.y() + cell.height() - 18);
+            painter.scale(1, -1);
+            painter.translate(0, -6);
+            const QPainterPath path = bezierPathWithRoundedRect(shape, 12, style);
+            painter.fillPath(path, QColor(70, 130, 220));
+            painter.strokePath(path, QPen(QColor(20, 60, 140), bezierPathDefaultLineWidth()));
+            painter.restore();
+            painter.drawText(QRectF(corner.x(), corner.y() + cell.height() - 18, cell.width(), 16), Qt::AlignCenter,
+                             QString::number(style));
+        }
+    }
+};
+
+// A ZARNShading band from the bottom colour to the top colour, in the middle half only.
+class ShadingBand : public QWidget
+{
+public:
+    ShadingBand() { setMinimumSize(120, 160); }
+    ZARNShading shading;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().base());
+        painter.translate(0, height());
+        painter.scale(1, -1);
+        shading.setStartPoint({width() / 2.0, height() * 0.25});
+        shading.setEndPoint({width() / 2.0, height() * 0.75});
+        shading.drawShading(painter);
+    }
+};
+
+ZARNShading::Components components(const QColor &colour)
+{
+    return {float(colour.redF()), float(colour.greenF()), float(colour.blueF()), float(colour.alphaF())};
+}
+
+QWidget *shadingBox()
+{
+    auto *box = new QGroupBox(QObject::tr("Shading"));
+    auto *band = new ShadingBand;
+    band->shading.setStartColorComponents(components(QColor(40, 90, 200)));
+    band->shading.setEndColorComponents(components(QColor(150, 200, 255)));
+    auto *layout = new QVBoxLayout(box);
+    layout->addWidget(band, 1);
+    const auto colourButton = [band](const QString &title, bool start) {
+        auto *button = new QPushButton(title);
+        QObject::connect(button, &QPushButton::clicked, band, [band, start] {
+            const QColor colour = QColorDialog::getColor(Qt::white, band, QString(), QColorDialog::ShowAlphaChannel);
+            if (!colour.isValid())
+                return;
+            if (start)
+                band->shading.setStartColorComponents(components(colour));
+            else
+                band->shading.setEndColorComponents(components(colour));
+            band->update();
+        });
+        return button;
+    };
+    layout->addWidget(colourButton(QObject::tr("Top colour..."), false));
+    layout->addWidget(colourButton(QObject::tr("Bottom colour..."), true));
+    return box;
+}
+
+// A 30 x 30 frame: a dark border, lighter inner ring and a pale centre, so every one of the
+// nine pieces shows where it lands.
+QImage frameArtwork()
+{
+    QImage frame(30, 30, QImage::Format_ARGB32_Premultiplied);
+    frame.fill(Qt::transparent);
+    QPainter painter(&frame);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(60, 60, 70));
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(QRectF(0, 0, 30, 30), 8, 8);
+    painter.setBrush(QColor(230, 180, 60));
+    painter.drawRoundedRect(QRectF(3, 3, 24, 24), 6, 6);
+    painter.setBrush(QColor(250, 245, 230));
+    painter.drawRect(QRectF(10, 10, 10, 10));
+    return frame;
+}
+
+class StretchedFrame : public QWidget
+{
+public:
+    StretchedFrame() { setMinimumSize(200, 120); }
+    QSize target{180, 80};
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QImage background(target, QImage::Format_ARGB32_Premultiplied);
+        background.fill(QColor(200, 220, 240));
+        QPainter(this).drawImage(0, 0, ZARNStretchImageOverImage(frameArtwork(), background));
+    }
+};
+
+QWidget *nineSliceBox()
+{
+    auto *box = new QGroupBox(QObject::tr("Nine-slice stretch of a 30 x 30 frame"));
+    auto *frame = new StretchedFrame;
+    auto *width = new QSlider(Qt::Horizontal);
+    width->setRange(10, 400);
+    width->setValue(frame->target.width());
+    auto *height = new QSlider(Qt::Horizontal);
+    height->setRange(10, 160);
+    height->setValue(frame->target.height());
+    const auto resize = [frame, width, height] {
+        frame->target = QSize(width->value(), height->value());
+        frame->update();
+    };
+    QObject::connect(width, &QSlider::valueChanged, frame, resize);
+    QObject::connect(height, &QSlider::valueChanged, frame, resize);
+    auto *layout = new QGridLayout(box);
+    layout->addWidget(frame, 0, 0, 1, 2);
+    layout->addWidget(new QLabel(QObject::tr("Width")), 1, 0);
+    layout->addWidget(width, 1, 1);
+    layout->addWidget(new QLabel(QObject::tr("Height")), 2, 0);
+    layout->addWidget(height, 2, 1);
+    return box;
+}
+
+QImage iconArtwork()
+{
+    QImage icon(36, 36, QImage::Format_ARGB32_Premultiplied);
+    icon.fill(Qt::transparent);
+    QPainter painter(&icon);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(90, 160, 90));
+    painter.setPen(QPen(QColor(30, 80, 30), 2));
+    painter.drawEllipse(QRectF(3, 3, 30, 30));
+    return icon;
+}
+
+QImage badgeArtwork()
+{
+    QImage badge(12, 12, QImage::Format_ARGB32_Premultiplied);
+    badge.fill(Qt::transparent);
+    QPainter painter(&badge);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(220, 40, 40));
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QRectF(0, 0, 12, 12));
+    return badge;
+}
+
+QLabel *imageLabel(const QImage &image, const QString &tip)
+{
+    auto *label = new QLabel;
+    label->setPixmap(QPixmap::fromImage(image));
+    label->setToolTip(tip);
+    return label;
+}
+
+QWidget *badgesBox()
+{
+    auto *box = new QGroupBox(QObject::tr("Badges at the nine alignments, and recolouring"));
+    auto *layout = new QGridLayout(box);
+    const QImage icon = iconArtwork();
+    for (int alignment = 0; alignment < 9; ++alignment)
+        layout->addWidget(imageLabel(badgedImage(icon, badgeArtwork(), alignment), QString::number(alignment)),
+                          alignment / 3, alignment % 3);
+    const QColor colours[] = {QColor(200, 60, 60), QColor(60, 60, 200), QColor(0, 0, 0, 120)};
+    for (int index = 0; index < 3; ++index)
+        layout->addWidget(imageLabel(ReplaceColorsInImage(icon, colours[index]), colours[index].name()), index, 4);
+    return box;
+}
+
+} // namespace
+
+QWidget *createDrawingPage()
+{
+    auto *page = new QWidget;
+    auto *layout = new QGridLayout(page);
+    auto *styles = new QGroupBox(QObject::tr("Rounding styles (corner bits: left 2, right 4, top 8, bottom 16)"));
+    (new QVBoxLayout(styles))->addWidget(new RoundingStylesView);
+    layout->addWidget(styles, 0, 0, 1, 2);
+    layout->addWidget(shadingBox(), 0, 2, 2, 1);
+    layout->addWidget(nineSliceBox(), 1, 0);
+    layout->addWidget(badgesBox(), 1, 1);
+    layout->setRowStretch(2, 1);
+    return page;
+}
