@@ -277,12 +277,10 @@ bool BXTimeIntervalFormatter::getObjectValue(QVariant *object, const QString &st
         value = m_componentStyle == 0 ? sumOfComponents(string) : 0.0;
         value = clamped(value, m_minimumTimeInterval, m_maximumTimeInterval);
     }
-    if (!m_showsMilliseconds) {
-        // Written as this subtraction rather than as the truncated value: beyond the int
-        // range, and for infinities, the two differ, and stored values depend on it.
-        const double whole = brixel::truncatedToInt32(value);
-        value = value - (value - whole);
-    }
+    // The fraction is dropped through a 32-bit int, so a value beyond its range (the default
+    // clamps allow some) becomes -2147483648; stored values depend on that, so it stays.
+    if (!m_showsMilliseconds)
+        value = brixel::truncatedToInt32(value);
     if (object)
         *object = value;
     return !string.isNull();

@@ -131,7 +131,8 @@ public:
     /**
      * Reads \a string as components separated by componentSeparator(), the last piece being
      * minimumComponent(); stores the clamped number of seconds (a double) in \a object,
-     * without the fraction unless showsMilliseconds() is set. Each piece counts with its
+     * without the fraction unless showsMilliseconds() is set (the fraction is dropped through
+     * a 32-bit int, so values beyond its range read as -2147483648). Each piece counts with its
      * leading number (leading white space skipped, text after the number ignored, no number
      * reads as 0), so every non-null string is accepted and the answer is true.
      *

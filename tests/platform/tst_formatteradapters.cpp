@@ -25,7 +25,7 @@ public:
     {
         bool ok = false;
         const int count = QStringView(string).sliced(string.startsWith(u'#') ? 1 : 0).toInt(&ok);
-        if (ok)
+        if (ok && object)
             *object = count;
         return ok;
     }
@@ -46,11 +46,8 @@ class TestFormatterAdapters : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void validate_data();
-    void validate();
-    void fixup_data();
-    void fixup();
-    void lineEditTidiesOnReturn_data();
+    void validateAndFixup_data();
+    void validateAndFixup();
     void lineEditTidiesOnReturn();
     void delegateShowsFormattedValues();
     void delegateEditsThroughFormatter_data();
@@ -58,98 +55,67 @@ private Q_SLOTS:
     void refusedTextLeavesModelAlone();
 };
 
-void TestFormatterAdapters::validate_data()
+void TestFormatterAdapters::validateAndFixup_data()
 {
     QTest::addColumn<FormatterPointer>("formatter");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QValidator::State>("state");
+    QTest::addColumn<QString>("fixed");
 
-    QTest::newRow("as the formatter shows it") << durations() << u"1:05:09"_s << QValidator::Acceptable;
-    QTest::newRow("readable, not tidy") << durations() << u"1:5:9"_s << QValidator::Intermediate;
-    QTest::newRow("empty") << durations() << QString() << QValidator::Intermediate;
-    QTest::newRow("refused") << counter() << u"x"_s << QValidator::Intermediate;
-    QTest::newRow("no formatter") << FormatterPointer() << u"x"_s << QValidator::Acceptable;
+    QTest::newRow("as the formatter shows it") << durations() << u"1:05:09"_s << QValidator::Acceptable << u"1:05:09"_s;
+    QTest::newRow("padded") << durations() << u"1:5:9"_s << QValidator::Intermediate << u"1:05:09"_s;
+    QTest::newRow("carried") << durations() << u"3909"_s << QValidator::Intermediate << u"1:05:09"_s;
+    QTest::newRow("empty field is zero") << durations() << QString() << QValidator::Intermediate << u"0:00:00"_s;
+    // -65 shows as "-1:0-5", which reads back as -60.
+    QTest::newRow("display reads as another value") << durations(0, 1) << u"-65"_s << QValidator::Intermediate << u"-1:00"_s;
+    QTest::newRow("refused text stays") << counter() << u"1.5"_s << QValidator::Intermediate << u"1.5"_s;
+    QTest::newRow("no formatter") << FormatterPointer() << u"x"_s << QValidator::Acceptable << u"x"_s;
 }
 
-void TestFormatterAdapters::validate()
+void TestFormatterAdapters::validateAndFixup()
 {
     QFETCH(FormatterPointer, formatter);
     QFETCH(QString, text);
     QFETCH(QValidator::State, state);
+    QFETCH(QString, fixed);
     const ZARNFormatterValidator validator(formatter);
     int position = 0;
     QCOMPARE(validator.validate(text, position), state);
-}
-
-void TestFormatterAdapters::fixup_data()
-{
-    QTest::addColumn<FormatterPointer>("formatter");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<bool>("acceptable");
-
-    QTest::newRow("padded") << durations() << u"1:5:9"_s << u"1:05:09"_s << true;
-    QTest::newRow("carried into larger components") << durations() << u"3909"_s << u"1:05:09"_s << true;
-    QTest::newRow("empty field is zero") << durations() << QString() << u"0:00:00"_s << true;
-    // -65 shows as "-1:0-5", which reads back as -60.
-    QTest::newRow("display that reads as another value") << durations(0, 1) << u"-65"_s << u"-1:00"_s << true;
-    QTest::newRow("refused text stays") << counter() << u"1.5"_s << u"1.5"_s << false;
-}
-
-void TestFormatterAdapters::fixup()
-{
-    QFETCH(FormatterPointer, formatter);
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
-    QFETCH(bool, acceptable);
-    const ZARNFormatterValidator validator(formatter);
     validator.fixup(text);
-    QCOMPARE(text, expected);
-    int position = 0;
-    QCOMPARE(validator.validate(text, position) == QValidator::Acceptable, acceptable);
-}
-
-void TestFormatterAdapters::lineEditTidiesOnReturn_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-
-    QTest::newRow("padded") << u"1:5:9"_s << u"1:05:09"_s;
-    QTest::newRow("seconds only") << u"75"_s << u"0:01:15"_s;
-    QTest::newRow("already tidy") << u"2:00:00"_s << u"2:00:00"_s;
+    QCOMPARE(text, fixed);
+    // What fixup leaves behind is final, unless the formatter cannot read it at all.
+    if (formatter && formatter->getObjectValue(nullptr, fixed, nullptr))
+        QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
 }
 
 void TestFormatterAdapters::lineEditTidiesOnReturn()
 {
-    QFETCH(QString, typed);
-    QFETCH(QString, shown);
     QLineEdit field;
     field.setValidator(new ZARNFormatterValidator(durations(), &field));
     QSignalSpy finished(&field, &QLineEdit::editingFinished);
     field.show();
     QVERIFY(QTest::qWaitForWindowExposed(&field));
 
-    QTest::keyClicks(&field, typed);
-    QCOMPARE(field.text(), typed); // typing is never blocked
+    QTest::keyClicks(&field, u"1:5:9"_s);
+    QCOMPARE(field.text(), u"1:5:9"_s); // typing is never blocked
+    QVERIFY(!field.hasAcceptableInput());
     QTest::keyClick(&field, Qt::Key_Return);
-    QCOMPARE(field.text(), shown);
+    QCOMPARE(field.text(), u"1:05:09"_s);
     QCOMPARE(finished.count(), 1);
 }
 
 void TestFormatterAdapters::delegateShowsFormattedValues()
 {
-    QStandardItemModel model(3, 1);
-    model.setData(model.index(0, 0), 3909.0);
-    model.setData(model.index(1, 0), 360000);
-    model.setData(model.index(2, 0), u"not a number"_s);
+    QStandardItemModel model(2, 1);
+    model.setData(model.index(0, 0), 360000);
+    model.setData(model.index(1, 0), u"not a number"_s);
     QTableView view;
     view.setModel(&model);
-    ZARNFormatterDelegate delegate(durations(), &view);
-    view.setItemDelegate(&delegate);
-
-    const QStringList expected = {u"1:05:09"_s, u"100:00:00"_s, u"0"_s};
-    for (int row = 0; row < model.rowCount(); ++row)
-        QCOMPARE(delegate.displayText(model.index(row, 0).data(), view.locale()), expected.at(row));
+    auto *delegate = new ZARNFormatterDelegate(durations(), &view);
+    view.setItemDelegate(delegate);
+    const auto shown = [&](int row) { return delegate->displayText(model.index(row, 0).data(), view.locale()); };
+    QCOMPARE(shown(0), u"100:00:00"_s);
+    QCOMPARE(shown(1), u"0"_s);
 }
 
 void TestFormatterAdapters::delegateEditsThroughFormatter_data()
@@ -194,16 +160,13 @@ void TestFormatterAdapters::refusedTextLeavesModelAlone()
     QStandardItemModel model(1, 1);
     const QModelIndex cell = model.index(0, 0);
     model.setData(cell, 7);
-    const ZARNFormatterDelegate delegate(std::make_shared<CountFormatter>());
+    const ZARNFormatterDelegate delegate(counter());
     QLineEdit editor;
     delegate.setEditorData(&editor, cell);
     QCOMPARE(editor.text(), u"#7"_s);
-    editor.setText(u"#8"_s);
-    delegate.setModelData(&editor, &model, cell);
-    QCOMPARE(model.data(cell), QVariant(8));
     editor.setText(u"eight"_s);
     delegate.setModelData(&editor, &model, cell);
-    QCOMPARE(model.data(cell), QVariant(8));
+    QCOMPARE(model.data(cell), QVariant(7));
 }
 
 QTEST_MAIN(TestFormatterAdapters)

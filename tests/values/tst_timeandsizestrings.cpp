@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNLocalizedString.h>
 #include <Brixel/ZARNTimeAndSizeStrings.h>
-#include <Brixel/ZARNUserDefaults.h>
 
-#include <QCoreApplication>
-#include <QStandardPaths>
 #include <QTest>
 
 #include <climits>
@@ -14,19 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 } // namespace
 
 class TestTimeAndSizeStrings : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
     void longString_data();
     void longString();
     void description_data();
     void description();
-    void descriptionIgnoresDecimalSeparator();
     void fileSize_data();
     void fileSize();
     void roundToIncrement_data();
@@ -36,34 +30,21 @@ private Q_SLOTS:
     void translatedUnits();
 };
 
-void TestTimeAndSizeStrings::initTestCase()
-{
-    QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setOrganizationName(u"BrixelTests"_s);
-    QCoreApplication::setApplicationName(u"tst_timeandsizestrings"_s);
-}
-
 void TestTimeAndSizeStrings::longString_data()
 {
     QTest::addColumn<double>("interval");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("zero") << 0.0 << u"--:--:--:--"_s;
     QTest::newRow("below a second") << 0.9 << u"--:--:--:--"_s;
     QTest::newRow("one second") << 1.0 << u"1 second"_s;
-    QTest::newRow("seconds") << 45.0 << u"45 seconds"_s;
     QTest::newRow("minute and second") << 61.0 << u"1 minute, 1 second"_s;
     QTest::newRow("hour, minutes, seconds") << 3725.0 << u"1 hour, 2 minutes, 5 seconds"_s;
     QTest::newRow("hour and seconds") << 3605.0 << u"1 hour, 5 seconds"_s;
-    QTest::newRow("whole hour") << 3600.0 << u"1 hour"_s;
     QTest::newRow("a day hides seconds") << 90061.0 << u"1 day, 1 hour, 1 minute"_s;
-    QTest::newRow("days") << 172800.0 << u"2 days"_s;
     QTest::newRow("day and minute") << 86460.0 << u"1 day, 1 minute"_s;
     QTest::newRow("seconds from the fraction too") << 59.99 << u"59 seconds"_s;
-    QTest::newRow("negative") << -3725.0 << u"--:--:--:--"_s;
     QTest::newRow("beyond 32 bits") << 3e9 + 30 << u"--:--:--:--"_s;
     QTest::newRow("NaN") << notANumber << u"--:--:--:--"_s;
-    QTest::newRow("infinity") << infinity << u"--:--:--:--"_s;
 }
 
 void TestTimeAndSizeStrings::longString()
@@ -80,12 +61,9 @@ void TestTimeAndSizeStrings::description_data()
 
     QTest::newRow("fraction dropped") << 3725.5 << u"01:02:05"_s;
     QTest::newRow("hours not limited to a day") << 360000.0 << u"100:00:00"_s;
-    QTest::newRow("seconds") << 5.0 << u"00:00:05"_s;
     QTest::newRow("two digits") << 36010.0 << u"10:00:10"_s;
-    QTest::newRow("seconds just below ten") << 9.99 << u"00:00:09"_s;
     QTest::newRow("negative fields keep their zero") << -5.0 << u"00:00:0-5"_s;
     QTest::newRow("NaN") << notANumber << u"0-596523:0-14:-2147483648"_s;
-    QTest::newRow("infinity") << infinity << u"0-596523:0-14:-2147483648"_s;
 }
 
 void TestTimeAndSizeStrings::description()
@@ -95,26 +73,15 @@ void TestTimeAndSizeStrings::description()
     QCOMPARE(TimeIntervalDescription(interval), expected);
 }
 
-void TestTimeAndSizeStrings::descriptionIgnoresDecimalSeparator()
-{
-    const QString key = u"NSDecimalSeparator"_s;
-    ZARNUserDefaults::setObject(u","_s, key);
-    QCOMPARE(TimeIntervalDescription(5.5), u"00:00:05"_s);
-    ZARNUserDefaults::removeObjectForKey(key);
-}
-
 void TestTimeAndSizeStrings::fileSize_data()
 {
     QTest::addColumn<quint64>("size");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("zero") << Q_UINT64_C(0) << u"0 bytes"_s;
     QTest::newRow("one has no singular") << Q_UINT64_C(1) << u"1 bytes"_s;
     QTest::newRow("largest in bytes") << Q_UINT64_C(1023) << u"1023 bytes"_s;
-    QTest::newRow("one kilobyte") << Q_UINT64_C(1024) << u"1.0KB"_s;
     QTest::newRow("tie rounds to even") << Q_UINT64_C(1280) << u"1.2KB"_s;
     QTest::newRow("largest in kilobytes") << Q_UINT64_C(1048575) << u"1024.0KB"_s;
-    QTest::newRow("one megabyte") << Q_UINT64_C(1048576) << u"1.0MB"_s;
     QTest::newRow("gigabytes") << Q_UINT64_C(1610612736) << u"1.5GB"_s;
     QTest::newRow("float rounding shows") << Q_UINT64_C(1449551462) << u"1.4GB"_s;
     QTest::newRow("largest size") << std::numeric_limits<quint64>::max() << u"17179869184.0GB"_s;
@@ -135,12 +102,8 @@ void TestTimeAndSizeStrings::roundToIncrement_data()
 
     QTest::newRow("down") << 11 << 5 << 10;
     QTest::newRow("odd increment rounds up early") << 12 << 5 << 15;
-    QTest::newRow("up") << 13 << 5 << 15;
-    QTest::newRow("seven") << 7 << 5 << 10;
-    QTest::newRow("below half") << 14 << 10 << 10;
     QTest::newRow("half rounds up") << 15 << 10 << 20;
     QTest::newRow("negative rounds toward zero") << -8 << 5 << -5;
-    QTest::newRow("multiple stays") << 20 << 10 << 20;
     QTest::newRow("negative increment") << -7 << -5 << -10;
     QTest::newRow("zero increment leaves the value") << 7 << 0 << 7;
     QTest::newRow("smallest int by minus one wraps") << INT_MIN << -1 << INT_MAX;
@@ -174,8 +137,6 @@ void TestTimeAndSizeStrings::translatedUnits()
     QFETCH(QString, expected);
     QVERIFY(ZARNLoadTranslations(locale));
     QCOMPARE(ZARNLongStringForTimeInterval(interval), expected);
-    if (locale.language() == QLocale::German)
-        QCOMPARE(ZARNLocalizedString("hours"), u"Stunden"_s);
 }
 
 QTEST_GUILESS_MAIN(TestTimeAndSizeStrings)
