@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/BXTimeIntervalFormatter.h>
+#include <Brixel/ZARNFormatterDelegate.h>
+#include <Brixel/ZARNFormatterValidator.h>
+
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+using FormatterPointer = std::shared_ptr<const ZARNFormatter>;
+Q_DECLARE_METATYPE(FormatterPointer)
+
+namespace {
+// Reads only whole numbers and shows them as "#n", so it refuses text and its display
+// differs from the text it reads.
+class CountFormatter : public ZARNFormatter
+{
+public:
+    QString stringForObjectValue(const QVariant &object) const override { return u"#"_s + object.toString(); }
+    bool getObjectValue(QVariant *object, const QString &string, QString *) const override
+    {
+        bool ok = false;
+        const int count = QStringView(string).sliced(string.startsWith(u'#') ? 1 : 0).toInt(&ok);
+        if (ok && object)
+            *object = count;
+        return ok;
+    }
+};
+
+FormatterPointer durations(int minimum = 0, int maximum = 2)
+{
+    return std::make_shared<BXTimeIntervalFormatter>(minimum, maximum);
+}
+
+FormatterPointer counter()
+{
+    return std::make_shared<CountFormatter>();
+}
+} // namespace
+
+class TestFormatterAdapters : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void validateAndFixup_data();
+    void validateAndFixup();
+    void lineEditTidiesOnReturn();
+    void delegateShowsFormattedValues();
+    void delegateEditsThroughFormatter_data();
+    void delegateEditsThroughFormatter();
+    void refusedTextLeavesModelAlone();
+};
+
+void TestFormatterAdapters::validateAndFixup_data()
+{
+    QTest::addColumn<FormatterPointer>("formatter");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QValidator::State>("state");
+    QTest::addColumn<QString>("fixed");
+
+    QTest::newRow("as the formatter shows it") << durations() << u"1:05:09"_s << QValidator::Acceptable << u"1:05:09"_s;
+    QTest::newRow("padded") << durations() << u"1:5:9"_s << QValidator::Intermediate << u"1:05:09"_s;
+    QTest::newRow("carried") << durations() << u"3909"_s << QValidator::Intermediate << u"1:05:09"_s;
+    QTest::newRow("empty field is zero") << durations() << QString() << QValidator::Intermediate << u"0:00:00"_s;
+    // -65 shows as "-1:0-5", which reads back as -60.
+    QTest::newRow("display reads as another value") << durations(0, 1) << u"-65"_s << QValidator::Intermediate << u"-1:00"_s;
+    QTest::newRow("refused text stays") << counter() << u"1.5"_s << QValidator::Intermediate << u"1.5"_s;
+    QTest::newRow("no formatter") << FormatterPointer() << u"x"_s << QValidator::Acceptable << u"x"_s;
+}
+
+void TestFormatterAdapters::validateAndFixup()
+{
+    QFETCH(FormatterPointer, formatter);
+    QFETCH(QString, text);
+    QFETCH(QValidator::State, state);
+    QFETCH(QString, fixed);
+    const ZARNFormatterValidator validator(formatter);
+    int position = 0;
+    QCOMPARE(validator.validate(text, position), state);
+    validator.fixup(text);
+    QCOMPARE(text, fixed);
+    // What fixup leaves behind is final, unless the formatter cannot read it at all.
+    if (formatter && formatter->getObjectValue(nullptr, fixed, nullptr))
+        QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
+}
+
+void TestFormatterAdapters::lineEditTidiesOnReturn()
+{
+    QLineEdit field;
+    field.setValidator(new ZARNFormatterValidator(durations(), &field));
+    QSignalSpy finished(&field, &QLineEdit::editingFinished);
+    field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&field));
+
+    QTest::keyClicks(&field, u"1:5:9"_s);
+    QCOMPARE(field.text(), u"1:5:9"_s); // typing is never blocked
+    QVERIFY(!field.hasAcceptableInput());
+    QTest::keyClick(&field, Qt::Key_Return);
+    QCOMPARE(field.text(), u"1:05:09"_s);
+    QCOMPARE(finished.count(), 1);
+}
+
+void TestFormatterAdapters::delegateShowsFormattedValues()
+{
+    QStandardItemModel model(2, 1);
+    model.setData(model.index(0, 0), 360000);
+    model.setData(model.index(1, 0), u"not a number"_s);
+    QTableView view;
+    view.setModel(&model);
+    auto *delegate = new ZARNFormatterDelegate(durations(), &view);
+    view.setItemDelegate(delegate);
+    const auto shown = [&](int row) { return delegate->displayText(model.index(row, 0).data(), view.locale()); };
+    QCOMPARE(shown(0), u"100:00:00"_s);
+    QCOMPARE(shown(1), u"0"_s);
+}
+
+void TestFormatterAdapters::delegateEditsThroughFormatter_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("stored");
+
+    QTest::newRow("hours to seconds") << u"1:05:09"_s << 3909.0;
+    QTest::newRow("untidy text") << u"2:3"_s << 123.0;
+    QTest::newRow("words read as zero") << u"soon"_s << 0.0;
+}
+
+void TestFormatterAdapters::delegateEditsThroughFormatter()
+{
+    QFETCH(QString, typed);
+    QFETCH(double, stored);
+    QStandardItemModel model(1, 1);
+    const QModelIndex cell = model.index(0, 0);
+    model.setData(cell, 60.0);
+    QTableView view;
+    view.setModel(&model);
+    view.setItemDelegate(new ZARNFormatterDelegate(durations(), &view));
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+
+    view.setCurrentIndex(cell);
+    view.edit(cell);
+    auto *editor = view.findChild<QLineEdit *>();
+    QVERIFY(editor);
+    QCOMPARE(editor->text(), u"0:01:00"_s);
+    editor->selectAll();
+    QTest::keyClicks(editor, typed);
+    QTest::keyClick(editor, Qt::Key_Return);
+
+    // The view commits and closes the editor from the event loop.
+    QTRY_COMPARE(model.data(cell, Qt::EditRole), QVariant(stored));
+    QTRY_VERIFY(!view.findChild<QLineEdit *>());
+}
+
+void TestFormatterAdapters::refusedTextLeavesModelAlone()
+{
+    QStandardItemModel model(1, 1);
+    const QModelIndex cell = model.index(0, 0);
+    model.setData(cell, 7);
+    const ZARNFormatterDelegate delegate(counter());
+    QLineEdit editor;
+    delegate.setEditorData(&editor, cell);
+    QCOMPARE(editor.text(), u"#7"_s);
+    editor.setText(u"eight"_s);
+    delegate.setModelData(&editor, &model, cell);
+    QCOMPARE(model.data(cell), QVariant(7));
+}
+
+QTEST_MAIN(TestFormatterAdapters)
+#include "tst_formatteradapters.moc"

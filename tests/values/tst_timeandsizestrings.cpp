@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNLocalizedString.h>
+#include <Brixel/ZARNTimeAndSizeStrings.h>
+
+#include <QTest>
+
+#include <climits>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+} // namespace
+
+class TestTimeAndSizeStrings : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void longString_data();
+    void longString();
+    void description_data();
+    void description();
+    void fileSize_data();
+    void fileSize();
+    void roundToIncrement_data();
+    void roundToIncrement();
+    // Last: the library's translator stays installed once loaded.
+    void translatedUnits_data();
+    void translatedUnits();
+};
+
+void TestTimeAndSizeStrings::longString_data()
+{
+    QTest::addColumn<double>("interval");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("below a second") << 0.9 << u"--:--:--:--"_s;
+    QTest::newRow("one second") << 1.0 << u"1 second"_s;
+    QTest::newRow("minute and second") << 61.0 << u"1 minute, 1 second"_s;
+    QTest::newRow("hour, minutes, seconds") << 3725.0 << u"1 hour, 2 minutes, 5 seconds"_s;
+    QTest::newRow("hour and seconds") << 3605.0 << u"1 hour, 5 seconds"_s;
+    QTest::newRow("a day hides seconds") << 90061.0 << u"1 day, 1 hour, 1 minute"_s;
+    QTest::newRow("day and minute") << 86460.0 << u"1 day, 1 minute"_s;
+    QTest::newRow("seconds from the fraction too") << 59.99 << u"59 seconds"_s;
+    QTest::newRow("beyond 32 bits") << 3e9 + 30 << u"--:--:--:--"_s;
+    QTest::newRow("NaN") << notANumber << u"--:--:--:--"_s;
+}
+
+void TestTimeAndSizeStrings::longString()
+{
+    QFETCH(double, interval);
+    QFETCH(QString, expected);
+    QCOMPARE(ZARNLongStringForTimeInterval(interval), expected);
+}
+
+void TestTimeAndSizeStrings::description_data()
+{
+    QTest::addColumn<double>("interval");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("fraction dropped") << 3725.5 << u"01:02:05"_s;
+    QTest::newRow("hours not limited to a day") << 360000.0 << u"100:00:00"_s;
+    QTest::newRow("two digits") << 36010.0 << u"10:00:10"_s;
+    QTest::newRow("negative fields keep their zero") << -5.0 << u"00:00:0-5"_s;
+    QTest::newRow("NaN") << notANumber << u"0-596523:0-14:-2147483648"_s;
+}
+
+void TestTimeAndSizeStrings::description()
+{
+    QFETCH(double, interval);
+    QFETCH(QString, expected);
+    QCOMPARE(TimeIntervalDescription(interval), expected);
+}
+
+void TestTimeAndSizeStrings::fileSize_data()
+{
+    QTest::addColumn<quint64>("size");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("one has no singular") << Q_UINT64_C(1) << u"1 bytes"_s;
+    QTest::newRow("largest in bytes") << Q_UINT64_C(1023) << u"1023 bytes"_s;
+    QTest::newRow("tie rounds to even") << Q_UINT64_C(1280) << u"1.2KB"_s;
+    QTest::newRow("largest in kilobytes") << Q_UINT64_C(1048575) << u"1024.0KB"_s;
+    QTest::newRow("gigabytes") << Q_UINT64_C(1610612736) << u"1.5GB"_s;
+    QTest::newRow("float rounding shows") << Q_UINT64_C(1449551462) << u"1.4GB"_s;
+    QTest::newRow("largest size") << std::numeric_limits<quint64>::max() << u"17179869184.0GB"_s;
+}
+
+void TestTimeAndSizeStrings::fileSize()
+{
+    QFETCH(quint64, size);
+    QFETCH(QString, expected);
+    QCOMPARE(StringForFileSize(size), expected);
+}
+
+void TestTimeAndSizeStrings::roundToIncrement_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::addColumn<int>("increment");
+    QTest::addColumn<int>("expected");
+
+    QTest::newRow("down") << 11 << 5 << 10;
+    QTest::newRow("odd increment rounds up early") << 12 << 5 << 15;
+    QTest::newRow("half rounds up") << 15 << 10 << 20;
+    QTest::newRow("negative rounds toward zero") << -8 << 5 << -5;
+    QTest::newRow("negative increment") << -7 << -5 << -10;
+    QTest::newRow("zero increment leaves the value") << 7 << 0 << 7;
+    QTest::newRow("smallest int by minus one wraps") << INT_MIN << -1 << INT_MAX;
+    QTest::newRow("past the largest int wraps") << INT_MAX << 10 << -2147483646;
+}
+
+void TestTimeAndSizeStrings::roundToIncrement()
+{
+    QFETCH(int, value);
+    QFETCH(int, increment);
+    QFETCH(int, expected);
+    QCOMPARE(ZARNRoundToNearestIncrement(value, increment), expected);
+}
+
+void TestTimeAndSizeStrings::translatedUnits_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<double>("interval");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("German") << QLocale(QLocale::German) << 93785.0 << u"1 Tag, 2 Stunden, 3 Minuten"_s;
+    QTest::newRow("French") << QLocale(QLocale::French) << 3661.0 << u"1 heure, 1 minute, 1 seconde"_s;
+    QTest::newRow("Spanish") << QLocale(QLocale::Spanish) << 172920.0 << u"2 días, 2 minutos"_s;
+    QTest::newRow("Japanese") << QLocale(QLocale::Japanese) << 7205.0 << u"2 時間, 5 秒"_s;
+}
+
+void TestTimeAndSizeStrings::translatedUnits()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(double, interval);
+    QFETCH(QString, expected);
+    QVERIFY(ZARNLoadTranslations(locale));
+    QCOMPARE(ZARNLongStringForTimeInterval(interval), expected);
+}
+
+QTEST_GUILESS_MAIN(TestTimeAndSizeStrings)
+#include "tst_timeandsizestrings.moc"
