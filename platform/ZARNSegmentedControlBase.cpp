@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleOptionButton>
 
+#include <algorithm>
+
 namespace {
 
 QStyleOptionButton buttonOption(const QWidget &widget, const QString &label, const QImage &image)

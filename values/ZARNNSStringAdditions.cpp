@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNSStringAdditions.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace {
 
 constexpr char16_t Comma = u',';

@@ -15,66 +15,36 @@ Q_DECLARE_METATYPE(ZARNIndexSet)
 
 namespace {
 const QStringList letters{u"a"_s, u"b"_s, u"c"_s, u"b"_s};
+constexpr qsizetype Minimum32 = -2147483647 - 1;
 }
 
 class TestCollectionAdditions : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void objectsAtIndexes_data();
-    void objectsAtIndexes();
-    void indexesOfObjects_data();
-    void indexesOfObjects();
+    void lookUps();
     void insertObjects_data();
     void insertObjects();
-    void insertListIntoItself();
     void removeByIdentity();
-    void replaceObject();
     void indexSetFromRowNumbers_data();
     void indexSetFromRowNumbers();
 };
 
-void TestCollectionAdditions::objectsAtIndexes_data()
+void TestCollectionAdditions::lookUps()
 {
-    QTest::addColumn<ZARNIndexSet>("indexes");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<bool>("throws");
+    QCOMPARE(objectsAtIndexes(letters, {3, 0}), (QStringList{u"a"_s, u"b"_s}));
+    QCOMPARE(objectsAtIndexes(letters, {}), QStringList{});
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, objectsAtIndexes(letters, {0, 4}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, objectsAtIndexes(letters, {-1}));
 
-    QTest::newRow("ascending order") << ZARNIndexSet{2, 0} << QStringList{u"a"_s, u"c"_s} << false;
-    QTest::newRow("empty set") << ZARNIndexSet{} << QStringList{} << false;
-    QTest::newRow("last element") << ZARNIndexSet{3} << QStringList{u"b"_s} << false;
-    QTest::newRow("one past the end") << ZARNIndexSet{0, 4} << QStringList{} << true;
-    QTest::newRow("negative") << ZARNIndexSet{-1} << QStringList{} << true;
-    QTest::newRow("not-found index") << ZARNIndexSet{ZARNNotFound} << QStringList{} << true;
-}
+    QCOMPARE(indexesOfObjects(letters, {u"c"_s, u"b"_s}), (ZARNIndexSet{1, 2})); // first equal element
+    QCOMPARE(indexesOfObjects(letters, {u"a"_s, u"x"_s}), (ZARNIndexSet{0, ZARNNotFound}));
 
-void TestCollectionAdditions::objectsAtIndexes()
-{
-    QFETCH(ZARNIndexSet, indexes);
-    QFETCH(QStringList, expected);
-    QFETCH(bool, throws);
-    if (throws)
-        QVERIFY_THROWS_EXCEPTION(std::out_of_range, ::objectsAtIndexes(letters, indexes));
-    else
-        QCOMPARE(::objectsAtIndexes(letters, indexes), expected);
-}
-
-void TestCollectionAdditions::indexesOfObjects_data()
-{
-    QTest::addColumn<QStringList>("objects");
-    QTest::addColumn<ZARNIndexSet>("expected");
-
-    QTest::newRow("found") << QStringList{u"c"_s, u"a"_s} << ZARNIndexSet{0, 2};
-    QTest::newRow("first of equal elements") << QStringList{u"b"_s} << ZARNIndexSet{1};
-    QTest::newRow("absent adds the not-found index") << QStringList{u"a"_s, u"x"_s} << ZARNIndexSet{0, ZARNNotFound};
-    QTest::newRow("none") << QStringList{} << ZARNIndexSet{};
-}
-
-void TestCollectionAdditions::indexesOfObjects()
-{
-    QFETCH(QStringList, objects);
-    QFETCH(ZARNIndexSet, expected);
-    QCOMPARE(::indexesOfObjects(letters, objects), expected);
+    QStringList list = letters;
+    replaceObject(list, u"b"_s, u"x"_s);
+    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, replaceObject(list, u"absent"_s, u"y"_s));
+    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
 }
 
 void TestCollectionAdditions::insertObjects_data()
@@ -96,11 +66,8 @@ void TestCollectionAdditions::insertObjects()
     QList<int> numbers{1, 4};
     ::insertObjects(numbers, {2, 3}, index);
     QCOMPARE(numbers, expected);
-}
 
-void TestCollectionAdditions::insertListIntoItself()
-{
-    QList<int> numbers{1, 4};
+    numbers = {1, 4};
     ::insertObjects(numbers, numbers, 1);
     QCOMPARE(numbers, (QList<int>{1, 1, 4, 4}));
 }
@@ -114,13 +81,8 @@ void TestCollectionAdditions::removeByIdentity()
 
     removeObjectsInArray_Optimized(list, {std::make_shared<QString>(u"two"_s)});
     QCOMPARE(list.size(), 5); // equal but not identical: nothing goes
-
     removeObjectsInArray_Optimized(list, {one});
     QCOMPARE(list, (QList<std::shared_ptr<QString>>{two, otherOne, two}));
-
-    removeObjectsInArray_Optimized(list, {});
-    QCOMPARE(list.size(), 3);
-
     removeObjectsInArray_Optimized(list, list);
     QVERIFY(list.isEmpty());
 
@@ -130,29 +92,17 @@ void TestCollectionAdditions::removeByIdentity()
     QCOMPARE(objects, QList<QObject *>{&b});
 }
 
-void TestCollectionAdditions::replaceObject()
-{
-    QStringList list = letters;
-    ::replaceObject(list, u"b"_s, u"x"_s);
-    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
-
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, ::replaceObject(list, u"absent"_s, u"y"_s));
-    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
-}
-
 void TestCollectionAdditions::indexSetFromRowNumbers_data()
 {
     QTest::addColumn<QVariantList>("rowNumbers");
     QTest::addColumn<ZARNIndexSet>("expected");
 
-    QTest::newRow("empty") << QVariantList{} << ZARNIndexSet{};
     QTest::newRow("sorted, duplicates once") << QVariantList{5, 2, 5} << ZARNIndexSet{2, 5};
     QTest::newRow("fractions truncate toward zero") << QVariantList{1.9, -2.7, 0.5f} << ZARNIndexSet{-2, 0, 1};
-    QTest::newRow("not a number") << QVariantList{std::nan("")} << ZARNIndexSet{-2147483647 - 1};
-    QTest::newRow("beyond 32 bits as a double") << QVariantList{3e9, -1e300} << ZARNIndexSet{-2147483647 - 1};
-    QTest::newRow("largest 32-bit double") << QVariantList{2147483647.9} << ZARNIndexSet{2147483647};
+    QTest::newRow("no 32-bit value") << QVariantList{std::nan(""), 3e9, -1e300} << ZARNIndexSet{Minimum32};
+    QTest::newRow("just inside 32 bits") << QVariantList{2147483647.9, -2147483648.9} << ZARNIndexSet{Minimum32, 2147483647};
     QTest::newRow("wide integer keeps low bits") << QVariantList{qlonglong(0x100000003)} << ZARNIndexSet{3};
-    QTest::newRow("numeric text and others") << QVariantList{u"7"_s, u"x"_s, true} << ZARNIndexSet{0, 1, 7};
+    QTest::newRow("text and others") << QVariantList{u"7"_s, u"x"_s, true} << ZARNIndexSet{0, 1, 7};
 }
 
 void TestCollectionAdditions::indexSetFromRowNumbers()

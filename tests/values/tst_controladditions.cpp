@@ -103,8 +103,6 @@ void TestControlAdditions::tabIdentifiers_data()
     // Tabs with identifiers "general" and 3, and one without.
     QTest::newRow("text") << QVariant(u"general"_s) << 0;
     QTest::newRow("number of another type") << QVariant(3.0) << 1;
-    QTest::newRow("number as text") << QVariant(u"3"_s) << 1;
-    QTest::newRow("unknown") << QVariant(u"advanced"_s) << -1;
     QTest::newRow("invalid matches no page") << QVariant() << -1;
 }
 
@@ -134,7 +132,6 @@ void TestControlAdditions::segmentTags_data()
     for (const quint32 version : {0x1040u, 0x103Fu}) {
         const int own = version > 0x103F ? 1 : 0;
         const QByteArray system = version > 0x103F ? "control selects: " : "walked: ";
-        QTest::newRow(system + "unique tag") << version << 5 << 0 << own;
         QTest::newRow(system + "first of two") << version << 7 << 1 << own;
         QTest::newRow(system + "default tag") << version << 0 << 3 << own;
         QTest::newRow(system + "absent") << version << 9 << -1 << own;
