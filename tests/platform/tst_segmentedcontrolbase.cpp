@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNSegmentedControlBase.h>
+
+#include "BrixelTest.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestSegmentedControlBase : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void selection_data();
+    void selection();
+    void clickSelects();
+    void selectedSegmentLooksPressed();
+};
+
+void TestSegmentedControlBase::selection_data()
+{
+    QTest::addColumn<std::function<void(ZARNSegmentedControlBase &)>>("operation");
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<QList<int>>("signalled");
+
+    // Three segments tagged 10, 20, 30 with segment 1 selected.
+    using Operation = std::function<void(ZARNSegmentedControlBase &)>;
+    QTest::newRow("select another") << Operation([](auto &c) { c.setSelectedSegment(2); }) << 2 << QList<int>{2};
+    QTest::newRow("select the same") << Operation([](auto &c) { c.setSelectedSegment(1); }) << 1 << QList<int>{};
+    QTest::newRow("minus one clears") << Operation([](auto &c) { c.setSelectedSegment(-1); }) << -1 << QList<int>{-1};
+    QTest::newRow("beyond the segments ignored") << Operation([](auto &c) { c.setSelectedSegment(3); }) << 1 << QList<int>{};
+    QTest::newRow("by tag") << Operation([](auto &c) { QVERIFY(c.selectSegmentWithTag(30)); }) << 2 << QList<int>{2};
+    QTest::newRow("by absent tag keeps it") << Operation([](auto &c) { QVERIFY(!c.selectSegmentWithTag(99)); })
+                                            << 1 << QList<int>{};
+    QTest::newRow("removing the selected segment") << Operation([](auto &c) { c.setSegmentCount(1); }) << -1
+                                                   << QList<int>{-1};
+    QTest::newRow("negative count removes all") << Operation([](auto &c) { c.setSegmentCount(-4); }) << -1
+                                                << QList<int>{-1};
+}
+
+void TestSegmentedControlBase::selection()
+{
+    QFETCH(std::function<void(ZARNSegmentedControlBase &)>, operation);
+    QFETCH(int, selected);
+    QFETCH(QList<int>, signalled);
+    ZARNSegmentedControlBase control;
+    control.setSegmentCount(3);
+    for (int segment = 0; segment < 3; ++segment)
+        control.setTag(10 * (segment + 1), segment);
+    control.setSelectedSegment(1);
+    QSignalSpy spy(&control, &ZARNSegmentedControlBase::selectedSegmentChanged);
+
+    operation(control);
+    QCOMPARE(control.selectedSegment(), selected);
+    QList<int> emitted;
+    for (const QList<QVariant> &arguments : spy)
+        emitted.append(arguments.at(0).toInt());
+    QCOMPARE(emitted, signalled);
+}
+
+void TestSegmentedControlBase::clickSelects()
+{
+    ZARNSegmentedControlBase control;
+    control.setSegmentCount(3);
+    control.resize(100, 20);
+    QCOMPARE(control.rectForSegment(1), QRect(33, 0, 33, 20));
+    QCOMPARE(control.rectForSegment(2), QRect(66, 0, 34, 20)); // the remainder goes last
+    QTest::mouseClick(&control, Qt::RightButton, {}, QPoint(99, 10));
+    QCOMPARE(control.selectedSegment(), -1);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(99, 10));
+    QCOMPARE(control.selectedSegment(), 2);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, QPoint(33, 10));
+    QCOMPARE(control.selectedSegment(), 1);
+}
+
+void TestSegmentedControlBase::selectedSegmentLooksPressed()
+{
+    brixeltest::useTestFont();
+    ZARNSegmentedControlBase control;
+    control.setSegmentCount(2);
+    control.setLabel(u"One"_s, 0);
+    control.setLabel(u"Two"_s, 1);
+    control.resize(control.sizeHint());
+    QVERIFY(control.sizeHint().width() >= 2 * control.fontMetrics().horizontalAdvance(u"Two"_s));
+
+    const QImage unselected = brixeltest::renderWidget(control);
+    control.setSelectedSegment(0);
+    const QImage selected = brixeltest::renderWidget(control);
+    const QRect first = control.rectForSegment(0), second = control.rectForSegment(1);
+    QVERIFY(selected.copy(first) != unselected.copy(first));
+    QCOMPARE(selected.copy(second), unselected.copy(second));
+}
+
+QTEST_MAIN(TestSegmentedControlBase)
+#include "tst_segmentedcontrolbase.moc"

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/NSAttributedString_Category.h>
+#include <Brixel/NSMutableAttributedString_Category.h>
+#include <Brixel/ZARNAttributedString.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+using Runs = QList<std::pair<ZARNRange, QVariantMap>>;
+
+namespace {
+
+ZARNAttributedString makeString(const QString &text, const Runs &runs)
+{
+    ZARNAttributedString string(text);
+    for (const auto &[range, attributes] : runs)
+        string.setAttributes(attributes, range);
+    return string;
+}
+
+} // namespace
+
+class TestAttributedStringAdditions : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void firstAttribute();
+    void replaceAttribute_data();
+    void replaceAttribute();
+    void invalidValue();
+};
+
+void TestAttributedStringAdditions::firstAttribute()
+{
+    QVERIFY(!attribute(ZARNAttributedString(), u"x"_s).isValid());
+    QCOMPARE(attribute(makeString(u"abc"_s, {{{0, 1}, {{u"x"_s, 1}}}, {{1, 2}, {{u"x"_s, 2}}}}), u"x"_s), QVariant(1));
+    QVERIFY(!attribute(makeString(u"abc"_s, {{{1, 2}, {{u"x"_s, 2}}}}), u"x"_s).isValid());
+}
+
+void TestAttributedStringAdditions::replaceAttribute_data()
+{
+    QTest::addColumn<ZARNAttributedString>("string");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<ZARNAttributedString>("expected");
+
+    const QVariantMap x1{{u"x"_s, 1}}, x2{{u"x"_s, 2}}, y{{u"y"_s, 0}};
+    const QVariantMap x1y{{u"x"_s, 1}, {u"y"_s, 0}}, x2y{{u"x"_s, 2}, {u"y"_s, 0}}, x9y{{u"x"_s, 9}, {u"y"_s, 0}};
+    const QVariantMap x9{{u"x"_s, 9}};
+
+    QTest::newRow("no attributes anywhere") << makeString(u"abc"_s, {}) << QVariant(9) << makeString(u"abc"_s, {});
+    QTest::newRow("every run, others kept")
+        << makeString(u"abcdef"_s, {{{0, 2}, x1y}, {{2, 2}, y}, {{4, 2}, x2y}}) << QVariant(9)
+        << makeString(u"abcdef"_s, {{{0, 6}, x9y}});
+    QTest::newRow("unattributed gap stays bare")
+        << makeString(u"abcdef"_s, {{{0, 2}, x1}, {{4, 2}, x2}}) << QVariant(9)
+        << makeString(u"abcdef"_s, {{{0, 2}, x9}, {{4, 2}, x9}});
+    QTest::newRow("added where it was missing")
+        << makeString(u"abcd"_s, {{{0, 2}, y}, {{2, 2}, x2}}) << QVariant(1)
+        << makeString(u"abcd"_s, {{{0, 2}, x1y}, {{2, 2}, x1}});
+}
+
+void TestAttributedStringAdditions::replaceAttribute()
+{
+    QFETCH(ZARNAttributedString, string);
+    QFETCH(QVariant, value);
+    QFETCH(ZARNAttributedString, expected);
+    ::replaceAttribute(string, u"x"_s, value);
+    QCOMPARE(string, expected);
+}
+
+void TestAttributedStringAdditions::invalidValue()
+{
+    ZARNAttributedString bare(u"abc"_s);
+    ::replaceAttribute(bare, u"x"_s, QVariant()); // no dictionary is touched
+    QCOMPARE(bare, ZARNAttributedString(u"abc"_s));
+
+    ZARNAttributedString styled = makeString(u"abc"_s, {{{2, 1}, {{u"y"_s, 0}}}});
+    const ZARNAttributedString before = styled;
+    QVERIFY_THROWS_EXCEPTION(std::invalid_argument, ::replaceAttribute(styled, u"x"_s, QVariant()));
+    QCOMPARE(styled, before);
+}
+
+QTEST_GUILESS_MAIN(TestAttributedStringAdditions)
+#include "tst_attributedstringadditions.moc"

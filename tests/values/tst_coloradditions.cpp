@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNNSColorAdditions.h>
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class TestColorAdditions : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void read_data();
+    void read();
+    void write_data();
+    void write();
+    void everyStoredColorRoundTrips();
+};
+
+void TestColorAdditions::read_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("expected");
+
+    QTest::newRow("red at half alpha") << u"1,0,0,0.5"_s << QColor::fromRgbF(1, 0, 0, 0.5f);
+    QTest::newRow("three parts give black") << u"1,0,0"_s << QColor::fromRgbF(0, 0, 0, 1);
+    QTest::newRow("further parts ignored") << u"0.25,0.5,0.75,1,junk"_s << QColor::fromRgbF(0.25f, 0.5f, 0.75f, 1);
+    QTest::newRow("leading number of each part") << u" \t0.2x, .5 ,+1e-1,25E-2%"_s
+                                                 << QColor::fromRgbF(0.2f, 0.5f, 0.1f, 0.25f);
+    QTest::newRow("no number reads zero") << u"red,-,.,e5"_s << QColor::fromRgbF(0, 0, 0, 0);
+    QTest::newRow("exponent without digits ends the number") << u"1e,0.5e+,0,1"_s << QColor::fromRgbF(1, 0.5f, 0, 1);
+    QTest::newRow("clamped to the unit range") << u"2,-1,1e99,-1e99"_s << QColor::fromRgbF(1, 0, 1, 0);
+    QTest::newRow("nan and inf are not numbers") << u"nan,inf,1,1"_s << QColor::fromRgbF(0, 0, 1, 1);
+}
+
+void TestColorAdditions::read()
+{
+    QFETCH(QString, text);
+    QFETCH(QColor, expected);
+    QCOMPARE(colorFromCalibratedRGBString(text), expected);
+}
+
+void TestColorAdditions::write_data()
+{
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("red at half alpha") << QColor::fromRgbF(1, 0, 0, 0.5f) << u"1.00000,0.00000,0.00000,0.50000"_s;
+    QTest::newRow("eight-bit components") << QColor(128, 64, 255) << u"0.50196,0.25098,1.00000,1.00000"_s;
+    QTest::newRow("other specs convert to RGB") << QColor::fromHsvF(0, 1, 1) << u"1.00000,0.00000,0.00000,1.00000"_s;
+    QTest::newRow("invalid is opaque black") << QColor() << u"0.00000,0.00000,0.00000,1.00000"_s;
+}
+
+void TestColorAdditions::write()
+{
+    QFETCH(QColor, color);
+    QFETCH(QString, text);
+    QCOMPARE(asCalibratedRGBString(color), text);
+}
+
+void TestColorAdditions::everyStoredColorRoundTrips()
+{
+    for (int stored = 0; stored <= 0xFFFF; ++stored) {
+        const QColor color = QColor::fromRgba64(stored, 0xFFFF - stored, stored, stored);
+        const QColor back = colorFromCalibratedRGBString(asCalibratedRGBString(color));
+        if (back.rgba64() != color.rgba64())
+            QFAIL(qPrintable(u"16-bit value %1 came back as %2"_s.arg(stored).arg(back.rgba64().red())));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestColorAdditions)
+#include "tst_coloradditions.moc"

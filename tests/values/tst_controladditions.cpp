@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/NSPopUpButton_Category.h>
+#include <Brixel/NSSegmentedControl_Category.h>
+#include <Brixel/ZARNNSMenuAdditions.h>
+#include <Brixel/ZARNNSPopUpButtonAdditions.h>
+#include <Brixel/ZARNNSTabViewAdditions.h>
+#include <Brixel/ZARNSegmentedControlBase.h>
+#include <Brixel/ZARNSystemVersion.h>
+
+#include <QComboBox>
+#include <QMenu>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Segments tagged 5, 7, 7, 0 with nothing selected; counts the times the control was asked to
+// select by tag itself.
+class TaggedSegments : public ZARNSegmentedControlBase
+{
+public:
+    TaggedSegments()
+    {
+        setSegmentCount(4);
+        setTag(5, 0);
+        setTag(7, 1);
+        setTag(7, 2);
+    }
+    bool selectSegmentWithTag(int tag) override
+    {
+        ++ownSelections;
+        return ZARNSegmentedControlBase::selectSegmentWithTag(tag);
+    }
+    int ownSelections = 0;
+};
+
+} // namespace
+
+class TestControlAdditions : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void cleanup() { ZARNSetSystemVersion(ZARNSystemVersionNewest); }
+    void menuItems();
+    void popUpTags_data();
+    void popUpTags();
+    void tabIdentifiers_data();
+    void tabIdentifiers();
+    void segmentTags_data();
+    void segmentTags();
+    void nullControls();
+};
+
+void TestControlAdditions::menuItems()
+{
+    QMenu menu;
+    QCOMPARE(lastItem(&menu), nullptr);
+    QAction first(u"First"_s), second(u"Second"_s);
+    addItems(&menu, {&first, nullptr, &second});
+    QCOMPARE(menu.actions(), (QList<QAction *>{&first, &second}));
+    QCOMPARE(lastItem(&menu), &second);
+    menu.addSeparator();
+    QVERIFY(lastItem(&menu)->isSeparator());
+}
+
+void TestControlAdditions::popUpTags_data()
+{
+    QTest::addColumn<int>("tag");
+    QTest::addColumn<int>("item");
+
+    // Items tagged 1, 2, 2 and one without data, which has tag 0.
+    QTest::newRow("unique tag") << 1 << 0;
+    QTest::newRow("first of two") << 2 << 1;
+    QTest::newRow("item without data") << 0 << 3;
+    QTest::newRow("absent") << 9 << -1;
+}
+
+void TestControlAdditions::popUpTags()
+{
+    QFETCH(int, tag);
+    QFETCH(int, item);
+    QComboBox button;
+    button.addItem(u"One"_s, 1);
+    button.addItem(u"Two"_s, 2);
+    button.addItem(u"Two again"_s, 2);
+    button.addItem(u"Untagged"_s);
+    button.setCurrentIndex(2);
+
+    QCOMPARE(itemWithTag(&button, tag), item);
+    QCOMPARE(selectItemWithTag(&button, tag), item != -1);
+    QCOMPARE(button.currentIndex(), item == -1 ? 2 : item); // a miss keeps the selection
+    selectItemWithTagOrClear(&button, tag);
+    QCOMPARE(button.currentIndex(), item); // a miss clears it
+}
+
+void TestControlAdditions::tabIdentifiers_data()
+{
+    QTest::addColumn<QVariant>("identifier");
+    QTest::addColumn<int>("tab");
+
+    // Tabs with identifiers "general" and 3, and one without.
+    QTest::newRow("text") << QVariant(u"general"_s) << 0;
+    QTest::newRow("number of another type") << QVariant(3.0) << 1;
+    QTest::newRow("invalid matches no page") << QVariant() << -1;
+}
+
+void TestControlAdditions::tabIdentifiers()
+{
+    QFETCH(QVariant, identifier);
+    QFETCH(int, tab);
+    QTabWidget tabView;
+    for (const QVariant &pageIdentifier : {QVariant(u"general"_s), QVariant(3), QVariant()}) {
+        auto *page = new QWidget;
+        page->setProperty(ZARNTabViewItemIdentifierProperty, pageIdentifier);
+        tabView.addTab(page, pageIdentifier.toString());
+    }
+    if (tab == -1)
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, tabViewItemWithIdentifier(&tabView, identifier));
+    else
+        QCOMPARE(tabViewItemWithIdentifier(&tabView, identifier), tabView.widget(tab));
+}
+
+void TestControlAdditions::segmentTags_data()
+{
+    QTest::addColumn<quint32>("systemVersion");
+    QTest::addColumn<int>("tag");
+    QTest::addColumn<int>("segment");
+    QTest::addColumn<int>("ownSelections");
+
+    for (const quint32 version : {0x1040u, 0x103Fu}) {
+        const int own = version > 0x103F ? 1 : 0;
+        const QByteArray system = version > 0x103F ? "control selects: " : "walked: ";
+        QTest::newRow(system + "first of two") << version << 7 << 1 << own;
+        QTest::newRow(system + "default tag") << version << 0 << 3 << own;
+        QTest::newRow(system + "absent") << version << 9 << -1 << own;
+    }
+}
+
+void TestControlAdditions::segmentTags()
+{
+    QFETCH(quint32, systemVersion);
+    QFETCH(int, tag);
+    QFETCH(int, segment);
+    QFETCH(int, ownSelections);
+    ZARNSetSystemVersion(systemVersion);
+    TaggedSegments control;
+
+    QCOMPARE(selectedSegmentTag(&control), -1);
+    QCOMPARE(segmentWithTag(&control, tag), segment);
+    QCOMPARE(selectSegmentWithTag(&control, tag), segment != -1);
+    QCOMPARE(control.ownSelections, ownSelections);
+    QCOMPARE(control.selectedSegment(), segment);
+    QCOMPARE(selectedSegmentTag(&control), segment == -1 ? -1 : tag);
+}
+
+void TestControlAdditions::nullControls()
+{
+    addItems(nullptr, {});
+    QCOMPARE(lastItem(nullptr), nullptr);
+    QCOMPARE(itemWithTag(nullptr, 0), -1);
+    QVERIFY(!selectItemWithTag(nullptr, 0));
+    selectItemWithTagOrClear(nullptr, 0);
+    QCOMPARE(tabViewItemWithIdentifier(nullptr, u"general"_s), nullptr);
+    QCOMPARE(selectedSegmentTag(nullptr), -1);
+    QCOMPARE(segmentWithTag(nullptr, 0), -1);
+    QVERIFY(!selectSegmentWithTag(nullptr, 0));
+}
+
+QTEST_MAIN(TestControlAdditions)
+#include "tst_controladditions.moc"
