@@ -29,6 +29,78 @@ qint64 saturatingSub(qint64 a, qint64 b)
     return difference;
 }
 
+// The 64 bits from stream bit `position` on, the first one in the most significant bit, for a
+// position at least 72 bits before the end of `bytes`: the eight bytes from the first one and
+// the byte after them.
+quint64 wordAt(const uchar *bytes, qint64 position)
+{
+    const qint64 first = position >> 3;
+    const int shift = int(position & 7);
+    return (qFromBigEndian<quint64>(bytes + first) << shift) | (bytes[first + 8] >> (8 - shift));
+}
+
+const uchar *bytesOf(const std::optional<QByteArray> &data)
+{
+    return reinterpret_cast<const uchar *>(data->constData());
+}
+
+// The same for any position, with the bits outside [0, readable) as 0, where readable is at
+// most the buffer's bit count.
+quint64 maskedWordAt(const std::optional<QByteArray> &data, qint64 readable, qint64 position)
+{
+    if (position >= readable || position <= -64 || !data)
+        return 0;
+    const qint64 byteCount = data->size();
+    const auto byteAt = [&](qint64 index) -> quint64 {
+        return index >= 0 && index < byteCount ? bytesOf(data)[index] : 0;
+    };
+    const qint64 first = position >> 3;
+    const int shift = int(position & 7);
+    quint64 word = 0;
+    for (int i = 0; i < 8; ++i)
+        word = (word << 8) | byteAt(first + i);
+    word = (word << shift) | (byteAt(first + 8) >> (8 - shift));
+    if (readable - position < 64)
+        word &= ~quint64(0) << (64 - (readable - position));
+    return word;
+}
+
+bool wholeWordAt(qint64 readable, qint64 position)
+{
+    return position >= 0 && position <= readable - 72;
+}
+
+quint64 peek64(const std::optional<QByteArray> &data, qint64 readable, qint64 position)
+{
+    return wholeWordAt(readable, position) ? wordAt(bytesOf(data), position) : maskedWordAt(data, readable, position);
+}
+
+// The bits that are both inside the buffer and before the length: [0, readableBits).
+qint64 readableBits(const std::optional<QByteArray> &data, qint64 length)
+{
+    return data ? std::clamp<qint64>(length, 0, qint64(data->size()) * 8) : 0;
+}
+
+// The result of reading `count` (> 32) bits from `start` one at a time, each shifted left by
+// (count - 1 - i) mod 32, where only the first `moves` bits come from the stream. Bits whose
+// shifts coincide fold together by OR, so the run splits into 32-bit groups that end at
+// offset `count`, and each group is one big-endian word.
+quint32 foldedBits(const std::optional<QByteArray> &data, qint64 readable, qint64 start, qint64 moves, qint32 count)
+{
+    // Offsets [first, end) of the run are the ones inside the buffer.
+    const qint64 first = start < 0 ? std::min(moves, saturatingSub(0, start)) : 0;
+    const qint64 end = std::min(moves, std::max<qint64>(0, saturatingSub(readable, start)));
+    const qint64 misalignment = (32 - ((count - first) & 31)) & 31;
+    quint32 value = 0;
+    for (qint64 group = first - misalignment; group < end; group += 32) {
+        quint32 word = quint32(peek64(data, readable, start + group) >> 32);
+        if (group < first)
+            word &= ~quint32(0) >> (first - group);
+        value |= word;
+    }
+    return value;
+}
+
 } // namespace
 
 ZARNBitstream ZARNBitstream::bitstreamWithData(const std::optional<QByteArray> &data)
@@ -49,7 +121,8 @@ void ZARNBitstream::setData(const std::optional<QByteArray> &data)
         // The byte count times 8 wraps in 32 bits, as the stream has always computed it.
         m_length = qint64(quint32(m_data->size()) * 8u);
     }
-    updateReadableBits();
+    m_readableBits = readableBits(m_data, m_length);
+    dropCache();
 }
 
 void ZARNBitstream::setLocation(qint64 location)
@@ -66,7 +139,8 @@ qint64 ZARNBitstream::location() const
 void ZARNBitstream::setLength(qint64 length)
 {
     m_length = length;
-    updateReadableBits();
+    m_readableBits = readableBits(m_data, m_length);
+    dropCache();
 }
 
 qint64 ZARNBitstream::length() const
@@ -74,46 +148,11 @@ qint64 ZARNBitstream::length() const
     return m_data ? m_length : -1;
 }
 
-void ZARNBitstream::updateReadableBits()
-{
-    m_readableBits = m_data ? std::clamp<qint64>(m_length, 0, qint64(m_data->size()) * 8) : 0;
-}
-
-// The 64 bits starting at stream bit `position`, the first one in the most significant bit;
-// bits outside [0, m_readableBits) are 0.
-quint64 ZARNBitstream::peek64(qint64 position) const
-{
-    const qint64 firstByte = position >> 3;
-    const int shift = int(position & 7);
-    if (position >= 0 && position <= m_readableBits - 64) {
-        // All 64 bits, and the byte after them when they straddle it, lie in the buffer.
-        const auto *bytes = reinterpret_cast<const uchar *>(m_data->constData());
-        const quint64 word = qFromBigEndian<quint64>(bytes + firstByte);
-        return shift == 0 ? word : (word << shift) | (bytes[firstByte + 8] >> (8 - shift));
-    }
-    if (position >= m_readableBits || position <= -64 || !m_data)
-        return 0;
-    const auto *bytes = reinterpret_cast<const uchar *>(m_data->constData());
-    const qint64 byteCount = m_data->size();
-    const auto byteAt = [&](qint64 index) -> quint64 {
-        return index >= 0 && index < byteCount ? bytes[index] : 0;
-    };
-    quint64 word = 0;
-    for (int i = 0; i < 8; ++i)
-        word = (word << 8) | byteAt(firstByte + i);
-    if (shift != 0)
-        word = (word << shift) | (byteAt(firstByte + 8) >> (8 - shift));
-    const qint64 readable = m_readableBits - position; // >= 1 here
-    if (readable < 64)
-        word &= ~quint64(0) << (64 - readable);
-    return word;
-}
-
 quint8 ZARNBitstream::readBit()
 {
     if (m_location >= m_length || !m_data)
         return 0;
-    const auto bit = quint8(peek64(m_location) >> 63);
+    const auto bit = quint8(peek64(m_data, m_readableBits, m_location) >> 63);
     ++m_location;
     return bit;
 }
@@ -132,28 +171,8 @@ quint32 ZARNBitstream::readBits(qint64 count)
     const qint64 moves = std::clamp<qint64>(saturatingSub(m_length, start), 0, loops);
     m_location = start + moves;
     if (loops <= 32)
-        return quint32(peek64(start) >> (64 - loops));
-    return foldedBits(start, moves, loops);
-}
-
-// The result of reading `count` (> 32) bits from `start` one at a time, each shifted left by
-// (count - 1 - i) mod 32, where only the first `moves` bits come from the stream. Bits whose
-// shifts coincide fold together by OR, so the run splits into 32-bit groups that end at
-// offset `count`, and each group is one big-endian word.
-quint32 ZARNBitstream::foldedBits(qint64 start, qint64 moves, qint32 count) const
-{
-    // Offsets [first, end) of the run are the ones inside the buffer.
-    const qint64 first = start < 0 ? std::min(moves, saturatingSub(0, start)) : 0;
-    const qint64 end = std::min(moves, std::max<qint64>(0, saturatingSub(m_readableBits, start)));
-    const qint64 misalignment = (32 - ((count - first) & 31)) & 31;
-    quint32 value = 0;
-    for (qint64 group = first - misalignment; group < end; group += 32) {
-        quint32 word = quint32(peek64(start + group) >> 32);
-        if (group < first)
-            word &= ~quint32(0) >> (first - group);
-        value |= word;
-    }
-    return value;
+        return quint32(peek64(m_data, m_readableBits, start) >> (64 - loops));
+    return foldedBits(m_data, m_readableBits, start, moves, loops);
 }
 
 quint8 ZARNBitstream::readByte()
@@ -180,7 +199,7 @@ qint64 ZARNBitstream::countExpGolombZeros()
         return 0;
     const qint64 start = m_location;
     for (qint64 position = std::max<qint64>(start, 0); position < m_readableBits; position += 64) {
-        if (const quint64 word = peek64(position)) {
+        if (const quint64 word = peek64(m_data, m_readableBits, position)) {
             const qint64 one = position + std::countl_zero(word);
             m_location = one + 1;
             return saturatingSub(one, start);
@@ -190,21 +209,29 @@ qint64 ZARNBitstream::countExpGolombZeros()
     return saturatingSub(m_length, start);
 }
 
-quint32 ZARNBitstream::readExpGolomb()
+// Starts the look-ahead at the position when there is room for it, else reads bit by bit
+// (long codes, codes near the ends of the buffer, positions outside it).
+quint32 ZARNBitstream::readExpGolombStartingCache()
 {
-    // A code of up to 63 bits whose 64-bit window lies wholly inside the buffer: one load.
-    if (m_location >= 0 && m_location <= m_readableBits - 64) {
-        const quint64 word = peek64(m_location);
-        const int zeros = std::countl_zero(word);
-        if (zeros < 32) {
-            const int codeLength = 2 * zeros + 1;
-            m_location += codeLength;
-            return quint32(word >> (64 - codeLength)) - 1u;
-        }
+    if (m_location >= 0 && (m_location >> 3) + 16 <= (m_readableBits >> 3)) {
+        const qint64 first = m_location >> 3;
+        const int shift = int(m_location & 7);
+        m_cache = wordAt(bytesOf(m_data), m_location);
+        m_cacheBits = 56 - shift;
+        m_cacheNext = first + 7;
+        m_cacheLocation = m_location;
+        quint32 value;
+        if (readCachedExpGolomb(value))
+            return value;
     }
     const qint64 zeros = countExpGolombZeros();
     const quint32 power = zeros < 32 ? quint32(1) << zeros : 0u;
     return power + readBits(zeros) - 1u;
+}
+
+void ZARNBitstream::dropCache()
+{
+    m_cacheNext = std::numeric_limits<qint64>::max();
 }
 
 qint32 ZARNBitstream::readSignedExpGolomb()

@@ -4,8 +4,12 @@
 #include <Brixel/brixel_export.h>
 
 #include <QByteArray>
+#include <QtEndian>
 #include <QtGlobal>
 
+#include <bit>
+#include <cstring>
+#include <limits>
 #include <optional>
 
 /**
@@ -37,7 +41,8 @@
  *   result (see there); callers read at most 32 bits at a time.
  *
  * readBits() and the Exp-Golomb reads work a 64-bit word at a time wherever the bits lie
- * inside the buffer, and a bit at a time only near its ends.
+ * inside the buffer, and bit by bit only near its ends. Successive readExpGolomb() calls
+ * share a look-ahead word, which any other change of position, data or length discards.
  */
 class BRIXEL_EXPORT ZARNBitstream
 {
@@ -107,7 +112,13 @@ public:
      * gives 0 and a trailing run of 32 or more zeros gives 0xffffffff. The count of zeros
      * saturates at the largest qint64.
      */
-    quint32 readExpGolomb();
+    quint32 readExpGolomb()
+    {
+        quint32 value;
+        if (m_cacheLocation == m_location && readCachedExpGolomb(value))
+            return value;
+        return readExpGolombStartingCache();
+    }
 
     /**
      * A signed Exp-Golomb code: the unsigned code k maps to -(k / 2) when even and
@@ -131,14 +142,43 @@ public:
     void skipExpGolomb();
 
 private:
+    // Kept inline for speed: tops the look-ahead up to at least 56 bits with one eight-byte
+    // load and reads a code of up to 55 bits from it. False, with the position unchanged, when
+    // the load would leave the readable bytes or the code is longer.
+    bool readCachedExpGolomb(quint32 &value)
+    {
+        if (m_cacheNext > (m_readableBits >> 3) - 8)
+            return false;
+        quint64 word;
+        std::memcpy(&word, m_data->constData() + m_cacheNext, sizeof word);
+        m_cache |= qFromBigEndian(word) >> m_cacheBits;
+        m_cacheNext += (63 - m_cacheBits) >> 3;
+        m_cacheBits |= 56;
+        const int zeros = std::countl_zero(m_cache | 1);
+        if (zeros > 27)
+            return false;
+        const int codeLength = 2 * zeros + 1;
+        value = quint32(m_cache >> (64 - codeLength)) - 1u;
+        m_cache <<= codeLength;
+        m_cacheBits -= codeLength;
+        m_location += codeLength;
+        m_cacheLocation = m_location;
+        return true;
+    }
+    quint32 readExpGolombStartingCache();
+    void dropCache();
     qint64 countExpGolombZeros();
-    quint64 peek64(qint64 position) const;
-    quint32 foldedBits(qint64 start, qint64 moves, qint32 count) const;
-    void updateReadableBits();
 
     std::optional<QByteArray> m_data;
     qint64 m_location = 0;
     qint64 m_length = 0;
     // Bits that are both inside the buffer and before m_length: [0, m_readableBits).
     qint64 m_readableBits = 0;
+    // The look-ahead of readExpGolomb(), valid while m_cacheLocation equals m_location: the
+    // m_cacheBits bits from m_location on, left-aligned in m_cache (the bits after them are 0
+    // or the stream's), and m_cacheNext, the index of the byte after them.
+    quint64 m_cache = 0;
+    int m_cacheBits = 0;
+    qint64 m_cacheNext = std::numeric_limits<qint64>::max();
+    qint64 m_cacheLocation = 0;
 };

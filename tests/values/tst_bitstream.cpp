@@ -169,6 +169,7 @@ void TestBitstream::reads_data()
     row("unsigned Exp-Golomb 1, 010, 011, 00100", "a640", "ue ue ue ue", {0, 1, 2, 3}, 12);
     row("signed Exp-Golomb 010, 011, 00100, 00101", "4c85", "se se se se", {1, -1, 2, -2}, 16);
     row("the widest Exp-Golomb code that fits 32 bits", "00000001fffffffe", "ue", {0xfffffffe}, 63);
+    row("an unaligned Exp-Golomb code of 59 bits", "000000000fffffffc0000000", "skip7 ue", {0x3ffffffe}, 66);
     row("an Exp-Golomb code of 32 zeros wraps", "000000008000000080", "ue", {0}, 65);
     row("Exp-Golomb zeros running into the end stop there", "00", "ue ue", {255, 0}, 8);
     row("zeros up to a length cut just before a one bit", "0000000000000001", "len63 ue", {0xffffffff}, 63);
@@ -257,7 +258,7 @@ void TestBitstream::matchesBitAtATimeReading()
                              QStringLiteral("se"),   QStringLiteral("skipue"), QStringLiteral("skipbit"),
                              QStringLiteral("skipbyte"), QStringLiteral("nodata")};
     const auto randomBytes = [&] {
-        QByteArray bytes(random.bounded(48), Qt::Uninitialized);
+        QByteArray bytes(random.bounded(64), Qt::Uninitialized);
         // Sparse bits make long Exp-Golomb codes.
         const quint32 density = random.bounded(4);
         for (char &byte : bytes)
@@ -270,7 +271,7 @@ void TestBitstream::matchesBitAtATimeReading()
         Comparison comparison(bytes);
         for (int step = 0; step < 40; ++step) {
             QString operation;
-            switch (random.bounded(10)) {
+            switch (random.bounded(11)) {
             case 0: operation = QStringLiteral("bits%1").arg(random.bounded(-40, 72)); break;
             case 1: operation = QStringLiteral("bits%1").arg(-(qint64(1) << 32) + random.bounded(40)); break;
             case 2: operation = QStringLiteral("bytes%1").arg(random.bounded(-3, 10)); break;
@@ -281,6 +282,11 @@ void TestBitstream::matchesBitAtATimeReading()
             case 6: operation = QStringLiteral("len%1").arg(random.bounded(-10, bits + 80)); break;
             case 7:
                 comparison.setData(randomBytes());
+                continue;
+            case 8:
+                // Runs of codes, which share a look-ahead.
+                for (int codes = random.bounded(1, 8); codes > 0; --codes)
+                    QVERIFY(comparison.step(QStringLiteral("ue")));
                 continue;
             default: operation = others[random.bounded(others.size())]; break;
             }
