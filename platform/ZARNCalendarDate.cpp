@@ -96,7 +96,7 @@ QDateTime fromLocalFields(const LocalFields &fields, const QTimeZone &zone)
 
 // A moment given in milliseconds since 1970 (as a double, so that any value is allowed),
 // clamped to the years of `zone` that dates support.
-QDateTime fromMSecsSinceEpoch(double msecs, const QTimeZone &zone)
+QDateTime clampedMoment(double msecs, const QTimeZone &zone)
 {
     const double first = double(fromLocalFields({FirstYear, 1, 1, 0, 0, 0, 0}, zone).toMSecsSinceEpoch());
     const double last = double(fromLocalFields({LastYear, 12, 31, 23, 59, 59, 999}, zone).toMSecsSinceEpoch());
@@ -337,14 +337,14 @@ ZARNCalendarDate ZARNCalendarDate::dateWithYear(int year, int month, int day, in
 
 ZARNCalendarDate ZARNCalendarDate::dateWithTimeIntervalSince1970(double seconds, const QTimeZone &timeZone)
 {
-    return ZARNCalendarDate(fromMSecsSinceEpoch(std::round(seconds * 1000.0), resolved(timeZone)));
+    return ZARNCalendarDate(clampedMoment(std::round(seconds * 1000.0), resolved(timeZone)));
 }
 
 ZARNCalendarDate ZARNCalendarDate::fromDateTime(const QDateTime &dateTime)
 {
     if (!dateTime.isValid())
         return ZARNCalendarDate();
-    return ZARNCalendarDate(fromMSecsSinceEpoch(double(dateTime.toMSecsSinceEpoch()), dateTime.timeZone()));
+    return ZARNCalendarDate(clampedMoment(double(dateTime.toMSecsSinceEpoch()), dateTime.timeZone()));
 }
 
 std::optional<ZARNCalendarDate> ZARNCalendarDate::dateWithString(const QString &string, const QString &calendarFormat)
