@@ -4,49 +4,43 @@
 #include <QRandomGenerator>
 #include <QTest>
 
-#include <limits>
+using namespace Qt::StringLiterals;
 
 namespace {
 
 // The stream's rules read one bit at a time, exactly as stated, to check the word-at-a-time
 // reader against.
-class ReferenceStream
-{
-public:
-    explicit ReferenceStream(const std::optional<QByteArray> &data) { setData(data); }
+struct ReferenceStream {
+    std::optional<QByteArray> data;
+    qint64 at = 0;
+    qint64 end = 0;
 
-    void setData(const std::optional<QByteArray> &data)
+    explicit ReferenceStream(const std::optional<QByteArray> &bytes) { setData(bytes); }
+    void setData(const std::optional<QByteArray> &bytes)
     {
-        m_data = data;
-        if (data) {
-            m_location = 0;
-            m_length = qint64(quint32(data->size()) * 8u);
-        }
+        data = bytes;
+        at = data ? 0 : at;
+        end = data ? qint64(quint32(data->size()) * 8u) : end;
     }
-    void setLocation(qint64 location) { m_location = m_data ? location : m_location; }
-    qint64 location() const { return m_data ? m_location : -1; }
-    void setLength(qint64 length) { m_length = length; }
-    qint64 length() const { return m_data ? m_length : -1; }
-
+    void setLocation(qint64 location) { at = data ? location : at; }
+    qint64 location() const { return data ? at : -1; }
+    void setLength(qint64 length) { end = length; }
+    qint64 length() const { return data ? end : -1; }
     quint8 readBit()
     {
-        if (m_location >= m_length || !m_data)
+        if (at >= end || !data)
             return 0;
-        const qint64 byte = m_location >= 0 ? m_location / 8 : -1;
-        const quint8 bit = byte >= 0 && byte < m_data->size() ? (uchar(m_data->at(byte)) >> (7 - m_location % 8)) & 1 : 0;
-        ++m_location;
-        return bit;
+        const qint64 bit = at++;
+        return bit >= 0 && bit / 8 < data->size() ? (uchar(data->at(bit / 8)) >> (7 - bit % 8)) & 1 : 0;
     }
     quint32 readBits(qint64 count)
     {
-        count = std::min(count, m_length - m_location);
+        count = std::min(count, end - at);
         if (count > 32)
             skipBits(count - 32);
         quint32 value = 0;
-        for (auto left = qint32(quint32(quint64(count))); left > 0;) {
-            --left;
+        for (auto left = qint32(quint32(quint64(count))); left-- > 0;)
             value |= quint32(readBit()) << (left % 32);
-        }
         return value;
     }
     quint8 readByte() { return quint8(readBits(8)); }
@@ -62,7 +56,7 @@ public:
     qint64 zeros()
     {
         qint64 zeros = 0;
-        while (m_location < m_length && m_data && readBit() == 0)
+        while (at < end && data && readBit() == 0)
             ++zeros;
         return zeros;
     }
@@ -79,22 +73,12 @@ public:
     void skipBit() { skipBits(1); }
     void skipByte() { skipBytes(1); }
     void skipBytes(qint32 count) { skipBits(qint64(count) * 8); }
-    void skipBits(qint64 count)
-    {
-        m_location += count;
-        if (m_location >= m_length)
-            m_location = m_length - 1;
-    }
+    void skipBits(qint64 count) { at = at + count >= end ? end - 1 : at + count; }
     void skipExpGolomb()
     {
         if (const qint64 z = zeros())
             skipBits(z);
     }
-
-private:
-    std::optional<QByteArray> m_data;
-    qint64 m_location = 0;
-    qint64 m_length = 0;
 };
 
 // Runs one operation, named as in the test tables ("bits4", "loc-3", "ue"), on either stream
@@ -132,6 +116,33 @@ QList<qint64> run(ZARNBitstream &stream, const QString &script)
     }
     return values;
 }
+
+// Runs the same operations on the stream and on the bit-at-a-time reference; false, with the
+// operations so far in a warning, at the first difference in value, location or length.
+struct Comparison {
+    ZARNBitstream stream;
+    ReferenceStream reference;
+    QStringList done;
+
+    explicit Comparison(const QByteArray &bytes) : stream(bytes), reference(bytes), done{QString::fromLatin1(bytes.toHex())} { }
+    void setData(const QByteArray &bytes)
+    {
+        stream.setData(bytes);
+        reference.setData(bytes);
+        done << u"data:"_s + QString::fromLatin1(bytes.toHex());
+    }
+    bool step(const QString &operation)
+    {
+        done << operation;
+        const std::optional<qint64> value = apply(stream, operation);
+        const std::optional<qint64> expected = apply(reference, operation);
+        if (value == expected && stream.location() == reference.location() && stream.length() == reference.length())
+            return true;
+        qWarning("%s gave %lld at %lld, expected %lld at %lld", qPrintable(done.join(u' ')), value.value_or(-1),
+                 stream.location(), expected.value_or(-1), reference.location());
+        return false;
+    }
+};
 
 } // namespace
 
@@ -202,61 +213,20 @@ void TestBitstream::withoutData()
     ZARNBitstream stream;
     QCOMPARE(stream.location(), -1);
     QCOMPARE(stream.length(), -1);
-    QCOMPARE(run(stream, QStringLiteral("loc3 len99 bit bits8 bytes4 ue se skip4")), QList<qint64>({0, 0, 0, 0, 0}));
-
-    stream.setData(QByteArray());
+    QCOMPARE(run(stream, u"loc3 len99 bit bits8 bytes4 ue se skip4"_s), QList<qint64>({0, 0, 0, 0, 0}));
+    stream.setData(QByteArray()); // empty, unlike no data
     QCOMPARE(stream.location(), 0);
     QCOMPARE(stream.length(), 0);
-    QCOMPARE(run(stream, QStringLiteral("bit ue")), QList<qint64>({0, 0}));
-
-    // Taking the data away keeps the position for when data comes back without a reset.
     stream.setData(QByteArray::fromHex("ff"));
-    run(stream, QStringLiteral("skip3 nodata"));
+    run(stream, u"skip3 nodata"_s);
     QCOMPARE(stream.location(), -1);
-    QCOMPARE(stream.length(), -1);
     QVERIFY(!stream.data());
 }
-
-// Runs the same operations on the stream and on the bit-at-a-time reference and reports the
-// first difference in value read, location or length.
-class Comparison
-{
-public:
-    explicit Comparison(const QByteArray &bytes) : m_bytes(bytes), m_stream(bytes), m_reference(bytes) { }
-
-    void setData(const QByteArray &bytes)
-    {
-        m_stream.setData(bytes);
-        m_reference.setData(bytes);
-        m_done << QStringLiteral("data:") + QString::fromLatin1(bytes.toHex());
-    }
-
-    bool step(const QString &operation)
-    {
-        m_done << operation;
-        const std::optional<qint64> value = apply(m_stream, operation);
-        const std::optional<qint64> expected = apply(m_reference, operation);
-        if (value == expected && m_stream.location() == m_reference.location() && m_stream.length() == m_reference.length())
-            return true;
-        qWarning("%s: %s gave %lld at %lld, expected %lld at %lld", m_bytes.toHex().constData(),
-                 qPrintable(m_done.join(u' ')), value.value_or(-1), m_stream.location(), expected.value_or(-1),
-                 m_reference.location());
-        return false;
-    }
-
-private:
-    QByteArray m_bytes;
-    ZARNBitstream m_stream;
-    ReferenceStream m_reference;
-    QStringList m_done;
-};
 
 void TestBitstream::matchesBitAtATimeReading()
 {
     QRandomGenerator random(20240515);
-    const QStringList others{QStringLiteral("bit"),  QStringLiteral("byte"),   QStringLiteral("ue"),
-                             QStringLiteral("se"),   QStringLiteral("skipue"), QStringLiteral("skipbit"),
-                             QStringLiteral("skipbyte"), QStringLiteral("nodata")};
+    const QStringList others = u"bit byte ue se skipue skipbit skipbyte nodata"_s.split(u' ');
     const auto randomBytes = [&] {
         QByteArray bytes(random.bounded(64), Qt::Uninitialized);
         // Sparse bits make long Exp-Golomb codes.
@@ -272,21 +242,21 @@ void TestBitstream::matchesBitAtATimeReading()
         for (int step = 0; step < 40; ++step) {
             QString operation;
             switch (random.bounded(11)) {
-            case 0: operation = QStringLiteral("bits%1").arg(random.bounded(-40, 72)); break;
-            case 1: operation = QStringLiteral("bits%1").arg(-(qint64(1) << 32) + random.bounded(40)); break;
-            case 2: operation = QStringLiteral("bytes%1").arg(random.bounded(-3, 10)); break;
-            case 3: operation = QStringLiteral("skip%1").arg(random.bounded(-90, 90)); break;
-            case 4: operation = QStringLiteral("skipbytes%1").arg(random.bounded(-6, 6)); break;
+            case 0: operation = u"bits%1"_s.arg(random.bounded(-40, 72)); break;
+            case 1: operation = u"bits%1"_s.arg(-(qint64(1) << 32) + random.bounded(40)); break;
+            case 2: operation = u"bytes%1"_s.arg(random.bounded(-3, 10)); break;
+            case 3: operation = u"skip%1"_s.arg(random.bounded(-90, 90)); break;
+            case 4: operation = u"skipbytes%1"_s.arg(random.bounded(-6, 6)); break;
             // Positions and lengths near the ends of the buffer, where the word reads stop.
-            case 5: operation = QStringLiteral("loc%1").arg(random.bounded(-70, bits + 20)); break;
-            case 6: operation = QStringLiteral("len%1").arg(random.bounded(-10, bits + 80)); break;
+            case 5: operation = u"loc%1"_s.arg(random.bounded(-70, bits + 20)); break;
+            case 6: operation = u"len%1"_s.arg(random.bounded(-10, bits + 80)); break;
             case 7:
                 comparison.setData(randomBytes());
                 continue;
             case 8:
                 // Runs of codes, which share a look-ahead.
                 for (int codes = random.bounded(1, 8); codes > 0; --codes)
-                    QVERIFY(comparison.step(QStringLiteral("ue")));
+                    QVERIFY(comparison.step(u"ue"_s));
                 continue;
             default: operation = others[random.bounded(others.size())]; break;
             }
@@ -301,17 +271,17 @@ void TestBitstream::sweepsTheEndsOfTheBuffer()
     QByteArray bytes(24, Qt::Uninitialized);
     for (char &byte : bytes)
         byte = char(random.generate());
-    QStringList reads{QStringLiteral("ue"), QStringLiteral("skipue"), QStringLiteral("bytes3")};
+    QStringList reads = u"ue skipue bytes3"_s.split(u' ');
     for (int count = 1; count <= 40; ++count)
-        reads << QStringLiteral("bits%1").arg(count);
+        reads << u"bits%1"_s.arg(count);
     // Every read from every location near a length cut anywhere in the buffer, so that the
     // bits after the length are real data that must not show.
     for (int length = 0; length <= bytes.size() * 8; length += 3) {
         for (int location = -70; location <= length + 2; ++location) {
             for (const QString &read : std::as_const(reads)) {
                 Comparison comparison(bytes);
-                QVERIFY(comparison.step(QStringLiteral("len%1").arg(length)));
-                QVERIFY(comparison.step(QStringLiteral("loc%1").arg(location)));
+                QVERIFY(comparison.step(u"len%1"_s.arg(length)));
+                QVERIFY(comparison.step(u"loc%1"_s.arg(location)));
                 QVERIFY(comparison.step(read));
             }
         }

@@ -19,14 +19,6 @@ public:
     double seconds = 0;
 };
 
-SettableClock *installClock()
-{
-    auto clock = std::make_unique<SettableClock>();
-    SettableClock *installed = clock.get();
-    ZARNClock::setCurrent(std::move(clock));
-    return installed;
-}
-
 QString fields(const ZARNCalendarDate &date)
 {
     return date.descriptionWithCalendarFormat(u"%a %Y-%m-%d %H:%M:%S"_s);
@@ -43,7 +35,6 @@ private Q_SLOTS:
     void ranges_data();
     void ranges();
     void outputsAreOptional();
-    void unknownMnemonicsLeaveOutputs_data();
     void unknownMnemonicsLeaveOutputs();
     void daysInMonth_data();
     void daysInMonth();
@@ -58,7 +49,9 @@ private:
 void TestDateRanges::init()
 {
     ZARNCalendarDate::setDefaultTimeZone(FixedZone);
-    m_clock = installClock();
+    auto clock = std::make_unique<SettableClock>();
+    m_clock = clock.get();
+    ZARNClock::setCurrent(std::move(clock));
 }
 
 void TestDateRanges::cleanupTestCase()
@@ -107,38 +100,22 @@ void TestDateRanges::ranges_data()
 
     const QString sunday = u"2024-05-19T09:00:00"_s;
     row("on a Sunday this week starts today", sunday, DateRangeMnemonicThisWeek, u"Sun 2024-05-19 00:00:00"_s, u"Sat 2024-05-25 23:59:59"_s);
-    row("on a Sunday last week is the one before", sunday, DateRangeMnemonicLastWeek, u"Sun 2024-05-12 00:00:00"_s, u"Sat 2024-05-18 23:59:59"_s);
     row("on a Sunday week to date is empty", sunday, DateRangeMnemonicWeekToDate, u"Sun 2024-05-19 00:00:00"_s, u"Sun 2024-05-19 00:00:00"_s);
-    row("on a Saturday night this week ends now", u"2024-05-18T23:59:59"_s, DateRangeMnemonicThisWeek,
-        u"Sun 2024-05-12 00:00:00"_s, u"Sat 2024-05-18 23:59:59"_s);
 
     const QString newYear = u"2025-01-02T08:00:00"_s;
     row("yesterday over the year end", u"2025-01-01T00:00:00"_s, DateRangeMnemonicYesterday, u"Tue 2024-12-31 00:00:00"_s, u"Tue 2024-12-31 23:59:59"_s);
-    row("last week in the year before", newYear, DateRangeMnemonicLastWeek, u"Sun 2024-12-22 00:00:00"_s, u"Sat 2024-12-28 23:59:59"_s);
     row("this week across the year end", newYear, DateRangeMnemonicThisWeek, u"Sun 2024-12-29 00:00:00"_s, u"Sat 2025-01-04 23:59:59"_s);
-    row("last month in the year before", newYear, DateRangeMnemonicLastMonth, u"Sun 2024-12-01 00:00:00"_s, u"Tue 2024-12-31 23:59:59"_s);
     row("last quarter in the year before", newYear, DateRangeMnemonicLastQuarter, u"Tue 2024-10-01 00:00:00"_s, u"Tue 2024-12-31 23:59:59"_s);
-    row("last year from January", newYear, DateRangeMnemonicLastYear, u"Mon 2024-01-01 00:00:00"_s, u"Tue 2024-12-31 23:59:59"_s);
 
     row("last month from 31 March is February", u"2024-03-31T12:00:00"_s, DateRangeMnemonicLastMonth,
         u"Thu 2024-02-01 00:00:00"_s, u"Thu 2024-02-29 23:59:59"_s);
-    row("last quarter from 31 March", u"2024-03-31T12:00:00"_s, DateRangeMnemonicLastQuarter,
-        u"Sun 2023-10-01 00:00:00"_s, u"Sun 2023-12-31 23:59:59"_s);
-    row("last quarter from 31 May goes through 29 February", u"2024-05-31T12:00:00"_s, DateRangeMnemonicLastQuarter,
-        u"Mon 2024-01-01 00:00:00"_s, u"Sun 2024-03-31 23:59:59"_s);
-    row("this quarter from its first second", u"2024-07-01T00:00:00"_s, DateRangeMnemonicThisQuarter,
-        u"Mon 2024-07-01 00:00:00"_s, u"Mon 2024-09-30 23:59:59"_s);
 
     // Clocks in Berlin go from 02:00 to 03:00 on Sunday 31 March 2024.
     const QTimeZone berlin("Europe/Berlin");
     row("today on a 23-hour day", u"2024-03-31T14:30:20"_s, DateRangeMnemonicToday,
         u"Sun 2024-03-31 00:00:00"_s, u"Sun 2024-03-31 23:59:59"_s, berlin);
-    row("month to date on a 23-hour day", u"2024-03-31T14:30:20"_s, DateRangeMnemonicMonthToDate,
-        u"Fri 2024-03-01 00:00:00"_s, u"Sun 2024-03-31 23:59:59"_s, berlin);
     row("a week over the change", u"2024-04-03T01:00:00"_s, DateRangeMnemonicThisWeek,
         u"Sun 2024-03-31 00:00:00"_s, u"Sat 2024-04-06 23:59:59"_s, berlin);
-    row("last week up to the change", u"2024-04-03T01:00:00"_s, DateRangeMnemonicLastWeek,
-        u"Sun 2024-03-24 00:00:00"_s, u"Sat 2024-03-30 23:59:59"_s, berlin);
 }
 
 void TestDateRanges::ranges()
@@ -153,8 +130,7 @@ void TestDateRanges::ranges()
 
     ZARNCalendarDate::setDefaultTimeZone(zone);
     setNow(now);
-    ZARNCalendarDate first;
-    ZARNCalendarDate last;
+    ZARNCalendarDate first, last;
     DateRangeForMnemonic(mnemonic, &first, &last);
     QCOMPARE(fields(first), start);
     QCOMPARE(fields(last), end);
@@ -176,25 +152,16 @@ void TestDateRanges::outputsAreOptional()
     }
 }
 
-void TestDateRanges::unknownMnemonicsLeaveOutputs_data()
-{
-    QTest::addColumn<int>("mnemonic");
-    QTest::newRow("14") << 14;
-    QTest::newRow("-1") << -1;
-    QTest::newRow("most negative") << std::numeric_limits<int>::min();
-    QTest::newRow("largest") << std::numeric_limits<int>::max();
-}
-
 void TestDateRanges::unknownMnemonicsLeaveOutputs()
 {
-    QFETCH(int, mnemonic);
     setNow(u"2024-05-15T14:30:20"_s);
     const ZARNCalendarDate marker = ZARNCalendarDate::dateWithYear(2001, 2, 3, 4, 5, 6);
-    ZARNCalendarDate start = marker;
-    ZARNCalendarDate end = marker;
-    DateRangeForMnemonic(mnemonic, &start, &end);
-    QVERIFY(start == marker);
-    QVERIFY(end == marker);
+    for (const int mnemonic : {14, -1, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        ZARNCalendarDate start = marker;
+        ZARNCalendarDate end = marker;
+        DateRangeForMnemonic(mnemonic, &start, &end);
+        QVERIFY(start == marker && end == marker);
+    }
 }
 
 void TestDateRanges::daysInMonth_data()
@@ -206,19 +173,14 @@ void TestDateRanges::daysInMonth_data()
     constexpr int IntMin = std::numeric_limits<int>::min();
     constexpr int IntMax = std::numeric_limits<int>::max();
     QTest::newRow("April") << 4 << 2023 << 30;
-    QTest::newRow("November") << 11 << 2023 << 30;
     QTest::newRow("July") << 7 << 2023 << 31;
-    QTest::newRow("August") << 8 << 2023 << 31;
     QTest::newRow("December") << 12 << 2023 << 31;
     QTest::newRow("February of a leap year") << 2 << 2024 << 29;
     QTest::newRow("February of a common year") << 2 << 2023 << 28;
     QTest::newRow("1900 is a leap year too") << 2 << 1900 << 29;
-    QTest::newRow("2000") << 2 << 2000 << 29;
     QTest::newRow("2100 is a leap year too") << 2 << 2100 << 29;
     QTest::newRow("month 13 counts as February") << 13 << 2023 << 28;
-    QTest::newRow("month 0 counts as February") << 0 << 2024 << 29;
     QTest::newRow("negative month and year") << -1 << -4 << 29;
-    QTest::newRow("negative year not divisible by 4") << 2 << -1 << 28;
     QTest::newRow("most negative values") << IntMin << IntMin << 29;
     QTest::newRow("largest values") << IntMax << IntMax << 28;
 }
