@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNBitstream.h>
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The stream's rules read one bit at a time, exactly as stated, to check the word-at-a-time
+// reader against.
+struct ReferenceStream {
+    std::optional<QByteArray> data;
+    qint64 at = 0;
+    qint64 end = 0;
+
+    explicit ReferenceStream(const std::optional<QByteArray> &bytes) { setData(bytes); }
+    void setData(const std::optional<QByteArray> &bytes)
+    {
+        data = bytes;
+        at = data ? 0 : at;
+        end = data ? qint64(quint32(data->size()) * 8u) : end;
+    }
+    void setLocation(qint64 location) { at = data ? location : at; }
+    qint64 location() const { return data ? at : -1; }
+    void setLength(qint64 length) { end = length; }
+    qint64 length() const { return data ? end : -1; }
+    quint8 readBit()
+    {
+        if (at >= end || !data)
+            return 0;
+        const qint64 bit = at++;
+        return bit >= 0 && bit / 8 < data->size() ? (uchar(data->at(bit / 8)) >> (7 - bit % 8)) & 1 : 0;
+    }
+    quint32 readBits(qint64 count)
+    {
+        count = std::min(count, end - at);
+        if (count > 32)
+            skipBits(count - 32);
+        quint32 value = 0;
+        for (auto left = qint32(quint32(quint64(count))); left-- > 0;)
+            value |= quint32(readBit()) << (left % 32);
+        return value;
+    }
+    quint8 readByte() { return quint8(readBits(8)); }
+    quint32 readBytes(qint32 count)
+    {
+        if (quint32(count) > 4u)
+            skipBytes(qint32(quint32(count) - 4u));
+        quint32 value = 0;
+        for (int i = 0; i < 4; ++i)
+            value = value << 8 | readByte();
+        return value;
+    }
+    qint64 zeros()
+    {
+        qint64 zeros = 0;
+        while (at < end && data && readBit() == 0)
+            ++zeros;
+        return zeros;
+    }
+    quint32 readExpGolomb()
+    {
+        const qint64 z = zeros();
+        return (z < 32 ? 1u << z : 0u) + readBits(z) - 1u;
+    }
+    qint32 readSignedExpGolomb()
+    {
+        const qint64 k = readExpGolomb();
+        return qint32(quint32(k % 2 == 0 ? -(k / 2) : (k + 1) / 2));
+    }
+    void skipBit() { skipBits(1); }
+    void skipByte() { skipBytes(1); }
+    void skipBytes(qint32 count) { skipBits(qint64(count) * 8); }
+    void skipBits(qint64 count) { at = at + count >= end ? end - 1 : at + count; }
+    void skipExpGolomb()
+    {
+        if (const qint64 z = zeros())
+            skipBits(z);
+    }
+};
+
+// Runs one operation, named as in the test tables ("bits4", "loc-3", "ue"), on either stream
+// and gives the value read, if the operation reads one.
+template<typename Stream>
+std::optional<qint64> apply(Stream &stream, const QString &operation)
+{
+    const auto digits = std::find_if(operation.cbegin(), operation.cend(), [](QChar c) { return c == u'-' || c.isDigit(); });
+    const QString name = QStringView(operation.cbegin(), digits).toString();
+    const qint64 argument = QStringView(digits, operation.cend()).toLongLong();
+    if (name == u"bit") return stream.readBit();
+    if (name == u"bits") return stream.readBits(argument);
+    if (name == u"byte") return stream.readByte();
+    if (name == u"bytes") return stream.readBytes(qint32(argument));
+    if (name == u"ue") return stream.readExpGolomb();
+    if (name == u"se") return stream.readSignedExpGolomb();
+    if (name == u"skipbit") stream.skipBit();
+    else if (name == u"skipbyte") stream.skipByte();
+    else if (name == u"skipbytes") stream.skipBytes(qint32(argument));
+    else if (name == u"skip") stream.skipBits(argument);
+    else if (name == u"skipue") stream.skipExpGolomb();
+    else if (name == u"loc") stream.setLocation(argument);
+    else if (name == u"len") stream.setLength(argument);
+    else if (name == u"nodata") stream.setData(std::nullopt);
+    else qFatal("unknown operation %s", qPrintable(operation));
+    return std::nullopt;
+}
+
+QList<qint64> run(ZARNBitstream &stream, const QString &script)
+{
+    QList<qint64> values;
+    for (const QString &operation : script.split(u' ', Qt::SkipEmptyParts)) {
+        if (const std::optional<qint64> value = apply(stream, operation))
+            values << *value;
+    }
+    return values;
+}
+
+// Runs the same operations on the stream and on the bit-at-a-time reference; false, with the
+// operations so far in a warning, at the first difference in value, location or length.
+struct Comparison {
+    ZARNBitstream stream;
+    ReferenceStream reference;
+    QStringList done;
+
+    explicit Comparison(const QByteArray &bytes) : stream(bytes), reference(bytes), done{QString::fromLatin1(bytes.toHex())} { }
+    void setData(const QByteArray &bytes)
+    {
+        stream.setData(bytes);
+        reference.setData(bytes);
+        done << u"data:"_s + QString::fromLatin1(bytes.toHex());
+    }
+    bool step(const QString &operation)
+    {
+        done << operation;
+        const std::optional<qint64> value = apply(stream, operation);
+        const std::optional<qint64> expected = apply(reference, operation);
+        if (value == expected && stream.location() == reference.location() && stream.length() == reference.length())
+            return true;
+        qWarning("%s gave %lld at %lld, expected %lld at %lld", qPrintable(done.join(u' ')), value.value_or(-1),
+                 stream.location(), expected.value_or(-1), reference.location());
+        return false;
+    }
+};
+
+} // namespace
+
+class TestBitstream : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void reads_data();
+    void reads();
+    void withoutData();
+    void matchesBitAtATimeReading();
+    void sweepsTheEndsOfTheBuffer();
+};
+
+void TestBitstream::reads_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QList<qint64>>("values");
+    QTest::addColumn<qint64>("location");
+
+    const auto row = [](const char *name, const char *hex, const char *script, QList<qint64> values, qint64 location) {
+        QTest::newRow(name) << QByteArray::fromHex(hex) << QString::fromLatin1(script) << values << location;
+    };
+    row("bits, nibble, byte, then nothing past the end", "a50f", "bit bit bit bit bits4 byte bit",
+        {1, 0, 1, 0, 5, 15, 0}, 16);
+    row("zero bits read nothing", "ff", "bits0 bits-3", {0, 0}, 0);
+    row("a count beyond the end is clamped", "1234", "bits40", {0x1234}, 16);
+    row("over 32 bits skip first, then fold modulo 32", "0081000000010000", "bits40", {0x81}, 48);
+    row("a negative count with positive low bits reads them", "f8", "bits-4294967291", {31}, 5);
+    row("readBytes always reads four bytes", "01020304", "bytes2", {0x01020304}, 32);
+    row("readBytes of one still reads four", "0102030405", "bytes1 byte", {0x01020304, 5}, 40);
+    row("readBytes beyond four skips the excess", "010203040506", "bytes6", {0x03040506}, 48);
+    row("readBytes of -1 moves back five bytes", "0102030405060708", "loc40 bytes-1", {0x01020304}, 32);
+    row("unsigned Exp-Golomb 1, 010, 011, 00100", "a640", "ue ue ue ue", {0, 1, 2, 3}, 12);
+    row("signed Exp-Golomb 010, 011, 00100, 00101", "4c85", "se se se se", {1, -1, 2, -2}, 16);
+    row("the widest Exp-Golomb code that fits 32 bits", "00000001fffffffe", "ue", {0xfffffffe}, 63);
+    row("an unaligned Exp-Golomb code of 59 bits", "000000000fffffffc0000000", "skip7 ue", {0x3ffffffe}, 66);
+    row("an Exp-Golomb code of 32 zeros wraps", "000000008000000080", "ue", {0}, 65);
+    row("Exp-Golomb zeros running into the end stop there", "00", "ue ue", {255, 0}, 8);
+    row("zeros up to a length cut just before a one bit", "0000000000000001", "len63 ue", {0xffffffff}, 63);
+    row("a code cut by the length reads zeros for the rest", "00000001ffffffff", "len62 ue", {0xbffffffe}, 62);
+    row("skipping an Exp-Golomb code", "3c", "skipue bit", {1}, 6);
+    row("a skip past the end stops on the last bit", "0001", "skip100 bit bit", {1, 0}, 16);
+    row("skipBytes counts bytes", "00ff", "skipbytes1 skipbit bits3", {7}, 12);
+    row("a length past the buffer reads zeros", "ff", "len16 bits16", {0xff00}, 16);
+    row("a negative location reads zeros up to the data", "80", "loc-3 bits4", {1}, 1);
+    row("a location past the length reads nothing", "ff", "loc20 bit ue", {0, 0}, 20);
+    row("location arithmetic saturates", "ffff", "loc9223372036854775000 skip9223372036854775000 bit", {1}, 16);
+    row("reading backwards from far before the data", "01", "loc-9223372036854775807 ue", {0xffffffff}, 8);
+}
+
+void TestBitstream::reads()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, script);
+    QFETCH(QList<qint64>, values);
+    QFETCH(qint64, location);
+
+    ZARNBitstream stream = ZARNBitstream::bitstreamWithData(bytes);
+    QCOMPARE(stream.length(), qint64(bytes.size()) * 8);
+    QCOMPARE(run(stream, script), values);
+    QCOMPARE(stream.location(), location);
+}
+
+void TestBitstream::withoutData()
+{
+    ZARNBitstream stream;
+    QCOMPARE(stream.location(), -1);
+    QCOMPARE(stream.length(), -1);
+    QCOMPARE(run(stream, u"loc3 len99 bit bits8 bytes4 ue se skip4"_s), QList<qint64>({0, 0, 0, 0, 0}));
+    stream.setData(QByteArray()); // empty, unlike no data
+    QCOMPARE(stream.location(), 0);
+    QCOMPARE(stream.length(), 0);
+    stream.setData(QByteArray::fromHex("ff"));
+    run(stream, u"skip3 nodata"_s);
+    QCOMPARE(stream.location(), -1);
+    QVERIFY(!stream.data());
+}
+
+void TestBitstream::matchesBitAtATimeReading()
+{
+    QRandomGenerator random(20240515);
+    const QStringList others = u"bit byte ue se skipue skipbit skipbyte nodata"_s.split(u' ');
+    const auto randomBytes = [&] {
+        QByteArray bytes(random.bounded(64), Qt::Uninitialized);
+        // Sparse bits make long Exp-Golomb codes.
+        const quint32 density = random.bounded(4);
+        for (char &byte : bytes)
+            byte = char(random.generate() & (density == 0 ? 0x01 : density == 1 ? 0x11 : 0xff));
+        return bytes;
+    };
+    for (int sequence = 0; sequence < 10000; ++sequence) {
+        const QByteArray bytes = randomBytes();
+        const int bits = int(bytes.size()) * 8;
+        Comparison comparison(bytes);
+        for (int step = 0; step < 40; ++step) {
+            QString operation;
+            switch (random.bounded(11)) {
+            case 0: operation = u"bits%1"_s.arg(random.bounded(-40, 72)); break;
+            case 1: operation = u"bits%1"_s.arg(-(qint64(1) << 32) + random.bounded(40)); break;
+            case 2: operation = u"bytes%1"_s.arg(random.bounded(-3, 10)); break;
+            case 3: operation = u"skip%1"_s.arg(random.bounded(-90, 90)); break;
+            case 4: operation = u"skipbytes%1"_s.arg(random.bounded(-6, 6)); break;
+            // Positions and lengths near the ends of the buffer, where the word reads stop.
+            case 5: operation = u"loc%1"_s.arg(random.bounded(-70, bits + 20)); break;
+            case 6: operation = u"len%1"_s.arg(random.bounded(-10, bits + 80)); break;
+            case 7:
+                comparison.setData(randomBytes());
+                continue;
+            case 8:
+                // Runs of codes, which share a look-ahead.
+                for (int codes = random.bounded(1, 8); codes > 0; --codes)
+                    QVERIFY(comparison.step(u"ue"_s));
+                continue;
+            default: operation = others[random.bounded(others.size())]; break;
+            }
+            QVERIFY(comparison.step(operation));
+        }
+    }
+}
+
+void TestBitstream::sweepsTheEndsOfTheBuffer()
+{
+    QRandomGenerator random(15052024);
+    QByteArray bytes(24, Qt::Uninitialized);
+    for (char &byte : bytes)
+        byte = char(random.generate());
+    QStringList reads = u"ue skipue bytes3"_s.split(u' ');
+    for (int count = 1; count <= 40; ++count)
+        reads << u"bits%1"_s.arg(count);
+    // Every read from every location near a length cut anywhere in the buffer, so that the
+    // bits after the length are real data that must not show.
+    for (int length = 0; length <= bytes.size() * 8; length += 3) {
+        for (int location = -70; location <= length + 2; ++location) {
+            for (const QString &read : std::as_const(reads)) {
+                Comparison comparison(bytes);
+                QVERIFY(comparison.step(u"len%1"_s.arg(length)));
+                QVERIFY(comparison.step(u"loc%1"_s.arg(location)));
+                QVERIFY(comparison.step(read));
+            }
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(TestBitstream)
+#include "tst_bitstream.moc"
