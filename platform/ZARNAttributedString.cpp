@@ -131,6 +131,28 @@ void ZARNAttributedString::addAttribute(const QString &name, const QVariant &val
     changeAttributes(range, [&](QVariantMap &runAttributes) { runAttributes.insert(name, value); });
 }
 
+ZARNAttributedString ZARNAttributedString::attributedSubstring(ZARNRange range) const
+{
+    checkRange(range, length());
+    ZARNAttributedString substring;
+    substring.m_string = m_string.mid(range.location, range.length);
+    if (range.length == 0)
+        return substring;
+    for (qsizetype run = runIndexAt(range.location); run < m_runs.size() && m_runs.at(run).start < range.end(); ++run)
+        substring.m_runs.append({std::max<qsizetype>(m_runs.at(run).start - range.location, 0), m_runs.at(run).attributes});
+    return substring;
+}
+
+void ZARNAttributedString::append(const ZARNAttributedString &other)
+{
+    const qsizetype offset = length();
+    const qsizetype firstNewRun = m_runs.size();
+    m_string += other.m_string;
+    for (const Run &run : other.m_runs)
+        m_runs.append({run.start + offset, run.attributes});
+    mergeEqualRuns(firstNewRun, firstNewRun);
+}
+
 QList<QTextLayout::FormatRange> ZARNAttributedString::formatRanges() const
 {
     QList<QTextLayout::FormatRange> formats;

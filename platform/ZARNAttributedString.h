@@ -71,6 +71,12 @@ public:
     /// other attributes.
     void addAttribute(const QString &name, const QVariant &value, ZARNRange range);
 
+    /// The characters in \a range with their attributes.
+    ZARNAttributedString attributedSubstring(ZARNRange range) const;
+
+    /// Adds \a other's characters and attributes at the end.
+    void append(const ZARNAttributedString &other);
+
     /// The runs with a font or a foreground colour as QTextLayout formats, ready for
     /// QTextLayout::setFormats(). The other attributes have no character-format equivalent and
     /// are left to the drawing code.

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void setAttributes();
     void addAttribute();
     void attributeEffectiveRange();
+    void substringAndAppend();
     void badInputChangesNothing_data();
     void badInputChangesNothing();
     void formatRanges();
@@ -98,6 +99,24 @@ void TestAttributedString::attributeEffectiveRange()
     QCOMPARE(range, (ZARNRange{3, 2}));
     QVERIFY(!string.attribute(u"color"_s, 9, &range).isValid());
     QCOMPARE(range, (ZARNRange{5, 5}));
+}
+
+void TestAttributedString::substringAndAppend()
+{
+    ZARNAttributedString string(u"0123456789"_s);
+    string.setAttributes(bold(), {2, 4});
+    const ZARNAttributedString middle = string.attributedSubstring({3, 5});
+    QCOMPARE(middle.string(), u"34567"_s);
+    QCOMPARE(runsOf(middle), (QList<Run>{{{0, 3}, bold()}, {{3, 2}, {}}}));
+    QVERIFY(string.attributedSubstring({10, 0}).isEmpty());
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, string.attributedSubstring({8, 3}));
+
+    // Appending text with the same attributes as the end extends the last run.
+    ZARNAttributedString joined = string.attributedSubstring({0, 4});
+    joined.append(ZARNAttributedString(u"ab"_s, bold()));
+    joined.append(ZARNAttributedString(u"c"_s, red()));
+    QCOMPARE(joined.string(), u"0123abc"_s);
+    QCOMPARE(runsOf(joined), (QList<Run>{{{0, 2}, {}}, {{2, 4}, bold()}, {{6, 1}, red()}}));
 }
 
 void TestAttributedString::badInputChangesNothing_data()

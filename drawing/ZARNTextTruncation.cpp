@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "ZARNTextTruncation.h"
+
+#include <QFont>
+#include <QLabel>
+#include <QStandardItem>
+#include <QTextLayout>
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+namespace {
+
+constexpr float heightLimit = 10000.0f;
+const QString dots = QStringLiteral("...");
+
+// QTextLayout breaks lines only at U+2028; the text's own line breaks become that.
+QString withLineSeparators(QString text)
+{
+    for (QChar &character : text) {
+        if (character == u'\n' || character == u'\r')
+            character = QChar::LineSeparator;
+    }
+    return text;
+}
+
+void prepare(QTextLayout &layout, const ZARNAttributedString &string, QTextOption::WrapMode wrapMode)
+{
+    layout.setText(withLineSeparators(string.string()));
+    layout.setFont(QFont());
+    layout.setFormats(string.formatRanges());
+    QTextOption option;
+    option.setWrapMode(wrapMode);
+    layout.setTextOption(option);
+}
+
+bool fitsLimit(float width, double limit)
+{
+    return !(double(width) > limit);
+}
+
+// The longest start of \a text (at most \a maxLength characters) that fits \a limit with the
+// dots after it, -1 when not even the dots alone fit.
+qsizetype longestPrefixBeforeDots(const ZARNAttributedString &text, qsizetype maxLength, const ZARNAttributedString &tail,
+                                  double limit)
+{
+    return brixel::longestFittingLength(maxLength, [&](qsizetype length) {
+        ZARNAttributedString candidate = text.attributedSubstring({0, length});
+        candidate.append(tail);
+        return fitsLimit(brixel::attributedStringWidth(candidate), limit);
+    });
+}
+
+// Shortens a cell's \a text, drawn with \a attributes, to \a width and stores it through
+// \a setText; text that fits is not stored. When not even "..." fits, the cell is left
+// showing "..." and the range error is thrown.
+template<typename SetText>
+void truncateCell(const QString &text, const QVariantMap &attributes, float width, SetText &&setText)
+{
+    const double limit = double(width) - ZARNTruncationMargin;
+    const ZARNAttributedString string(text, attributes);
+    if (fitsLimit(brixel::attributedStringWidth(string), limit))
+        return;
+    const qsizetype kept = longestPrefixBeforeDots(string, text.size() - 1,
+                                                   ZARNAttributedString(dots, attributes), limit);
+    setText(text.left(std::max<qsizetype>(kept, 0)) + dots);
+    if (kept < 0)
+        throw std::out_of_range("TruncateStringInCell: the width cannot hold \"...\"");
+}
+
+} // namespace
+
+float brixel::attributedStringWidth(const ZARNAttributedString &string)
+{
+    QTextLayout layout;
+    prepare(layout, string, QTextOption::NoWrap);
+    layout.beginLayout();
+    qreal widest = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(std::numeric_limits<float>::max());
+        widest = std::max(widest, line.naturalTextWidth());
+    }
+    layout.endLayout();
+    return float(widest);
+}
+
+void TruncateStringInCell(QLabel *label, float width)
+{
+    if (!label)
+        return;
+    const QVariantMap attributes{{ZARNFontAttributeName, label->font()},
+                                 {ZARNForegroundColorAttributeName, label->palette().color(label->foregroundRole())}};
+    truncateCell(label->text(), attributes, width, [label](const QString &text) { label->setText(text); });
+}
+
+void TruncateStringInCell(QStandardItem *item, float width)
+{
+    if (!item)
+        return;
+    QVariantMap attributes{{ZARNFontAttributeName, item->font()}};
+    if (const QVariant foreground = item->data(Qt::ForegroundRole); foreground.isValid())
+        attributes.insert(ZARNForegroundColorAttributeName, item->foreground().color());
+    truncateCell(item->text(), attributes, width, [item](const QString &text) { item->setText(text); });
+}
+
+ZARNAttributedString TruncateAttributedString(const ZARNAttributedString &string, float width)
+{
+    const double limit = double(width) - ZARNTruncationMargin;
+    if (fitsLimit(brixel::attributedStringWidth(string), limit))
+        return string;
+    if (string.isEmpty())
+        throw std::out_of_range("TruncateAttributedString: an empty string has no last character");
+
+    const ZARNAttributedString tail(dots, string.attributesAtIndex(string.length() - 1));
+    const qsizetype kept = std::max<qsizetype>(longestPrefixBeforeDots(string, string.length() - 1, tail, limit), 0);
+    ZARNAttributedString truncated = string.attributedSubstring({0, kept});
+    truncated.append(tail);
+    return truncated;
+}
+
+QString TruncateStringWithAttributes(const QString &string, const QVariantMap &attributes, float width)
+{
+    if (string.isNull())
+        return {};
+    return TruncateAttributedString(ZARNAttributedString(string, attributes), width).string();
+}
+
+float ZARNAttributedStringHeightForWidth(const ZARNAttributedString &string, float width)
+{
+    if (string.isEmpty())
+        return 0.0f;
+    // One layout serves every call, as the measurement runs often and in the GUI thread only.
+    static QTextLayout layout;
+    prepare(layout, string, QTextOption::WrapAtWordBoundaryOrAnywhere);
+    const qreal lineWidth = width > 0 ? qreal(width) : 0.0;
+    qreal height = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLeadingIncluded(true);
+        line.setLineWidth(lineWidth);
+        if (height + line.height() > heightLimit)
+            break;
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    // Hold no text or fonts between calls, so nothing outlives the application's fonts.
+    layout.setText(QString());
+    return float(height);
+}

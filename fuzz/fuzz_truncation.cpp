@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// The truncation functions on arbitrary text, attributes and widths: they never fail, never
+// hang, and their results follow the shortening rules: unchanged text when it fits, else a
+// start of the text followed by "..." that fits, or "..." alone.
+
+#include <Brixel/ZARNTextTruncation.h>
+
+#include <QColor>
+#include <QFont>
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+void require(bool condition)
+{
+    if (!condition)
+        std::abort();
+}
+
+QVariantMap attributesFrom(quint8 byte)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setPointSize(6 + byte % 20);
+    font.setBold(byte & 0x80);
+    return {{ZARNFontAttributeName, font}, {ZARNForegroundColorAttributeName, QColor(byte & 1 ? Qt::red : Qt::black)}};
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The application lives until the process ends: libFuzzer leaves through exit(), and
+    // taking Qt's application down from an exit handler crashes.
+    static QGuiApplication *const application = new QGuiApplication(*argc, *argv);
+    Q_UNUSED(application)
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, size_t size)
+{
+    if (size < 4)
+        return 0;
+    qint16 rawWidth;
+    std::memcpy(&rawWidth, data, sizeof rawWidth);
+    const float width = float(rawWidth) / 8.0f;
+    const quint8 styleA = data[2];
+    const quint8 styleB = data[3];
+    data += 4;
+    size -= 4;
+
+    const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
+    ZARNAttributedString string(text, attributesFrom(styleA));
+    if (string.length() > 1)
+        string.setAttributes(attributesFrom(styleB), {string.length() / 2, string.length() - string.length() / 2});
+
+    const double limit = double(width) - ZARNTruncationMargin;
+    try {
+        const ZARNAttributedString truncated = TruncateAttributedString(string, width);
+        if (truncated == string) {
+            require(!(double(brixel::attributedStringWidth(string)) > limit) || string.string().endsWith(u"..."));
+        } else {
+            require(truncated.string().endsWith(u"..."));
+            const QString kept = truncated.string().chopped(3);
+            require(kept.size() < string.length() && string.string().startsWith(kept));
+            require(kept.isEmpty() || !(double(brixel::attributedStringWidth(truncated)) > limit));
+        }
+    } catch (const std::out_of_range &) {
+        require(string.isEmpty() && width < 4.0f);
+    }
+    return 0;
+}

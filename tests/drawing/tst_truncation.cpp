@@ -1,0 +1,224 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNTextTruncation.h>
+
+#include <BrixelTest.h>
+
+#include <QColor>
+#include <QFont>
+#include <QLabel>
+#include <QRandomGenerator>
+#include <QStandardItem>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QFont font(qreal pointSize, bool bold = false)
+{
+    QFont font(u"DejaVu Sans"_s);
+    font.setPointSizeF(pointSize);
+    font.setBold(bold);
+    return font;
+}
+
+QVariantMap attributes(qreal pointSize, const QColor &colour = Qt::black, bool bold = false)
+{
+    return {{ZARNFontAttributeName, font(pointSize, bold)}, {ZARNForegroundColorAttributeName, colour}};
+}
+
+float widthOf(const ZARNAttributedString &string)
+{
+    return brixel::attributedStringWidth(string);
+}
+
+// The shortening rule taken literally: the dots replace the last character, then the
+// character before the dots goes, one at a time, measuring after every step.
+ZARNAttributedString stepByStep(const ZARNAttributedString &string, float width)
+{
+    const double limit = double(width) - 4.0;
+    if (!(double(widthOf(string)) > limit))
+        return string;
+    ZARNAttributedString text = string.attributedSubstring({0, string.length() - 1});
+    text.append(ZARNAttributedString(u"..."_s, string.attributesAtIndex(string.length() - 1)));
+    while (double(widthOf(text)) > limit && text.length() >= 4) {
+        ZARNAttributedString shorter = text.attributedSubstring({0, text.length() - 4});
+        shorter.append(text.attributedSubstring({text.length() - 3, 3}));
+        text = shorter;
+    }
+    return text;
+}
+
+// Words with kerning pairs, ligature candidates, combining marks and right-to-left text.
+const QString words[] = {u"AVATAR"_s, u"To"_s, u"Wo"_s, u"office"_s, u"flow"_s, u"Yes,"_s, u"LT"_s,
+                         u"naïve"_s, u"e\u0301te\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"1234"_s, u"..."_s, u"ij"_s};
+
+ZARNAttributedString randomText(QRandomGenerator &random)
+{
+    ZARNAttributedString text;
+    const int wordCount = random.bounded(1, 9);
+    for (int word = 0; word < wordCount; ++word) {
+        const QString piece = words[random.bounded(int(std::size(words)))] + (random.bounded(3) ? u" "_s : QString());
+        const QColor colour = random.bounded(2) ? QColor(Qt::black) : QColor(Qt::red);
+        text.append(ZARNAttributedString(piece, attributes(8 + random.bounded(10), colour, random.bounded(2))));
+    }
+    return text;
+}
+
+} // namespace
+
+class TestTruncation : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { brixeltest::useTestFont(); }
+    void longestFittingLength_data();
+    void longestFittingLength();
+    void sameAsShorteningOneCharacterAtATime();
+    void textThatFitsIsUnchanged();
+    void lastCharacterGivesWayFirst();
+    void dotsTakeTheLastCharactersAttributes();
+    void nothingFitsLeavesTheDots();
+    void emptyString();
+    void labelIsShortenedInPlace();
+    void modelItemKeepsItsFont();
+    void labelTooNarrowForTheDotsThrows();
+    void heightForWidth();
+};
+
+void TestTruncation::longestFittingLength_data()
+{
+    QTest::addColumn<QString>("fits");   // one character per length: 'y' fits, 'n' does not
+    QTest::addColumn<qsizetype>("expected");
+
+    QTest::newRow("every length fits") << u"yyyyyyyyyy"_s << qsizetype(9);
+    QTest::newRow("nothing fits") << u"nnnnn"_s << qsizetype(-1);
+    QTest::newRow("only the empty prefix") << u"ynnnnnnn"_s << qsizetype(0);
+    QTest::newRow("boundary in the middle") << u"yyyyyyynnnnnnnnnnnnnn"_s << qsizetype(6);
+    QTest::newRow("boundary after a power of two") << u"yyyyyyyyynnnn"_s << qsizetype(8);
+    QTest::newRow("a kerning dip just above") << u"yyyynynnnnn"_s << qsizetype(5);
+    QTest::newRow("zero maximum") << u"y"_s << qsizetype(0);
+}
+
+void TestTruncation::longestFittingLength()
+{
+    QFETCH(QString, fits);
+    QFETCH(qsizetype, expected);
+    int calls = 0;
+    const qsizetype found = brixel::longestFittingLength(fits.size() - 1, [&](qsizetype length) {
+        ++calls;
+        return fits.at(length) == u'y';
+    });
+    QCOMPARE(found, expected);
+    QVERIFY(calls <= 2 * 5 + 4);
+}
+
+void TestTruncation::sameAsShorteningOneCharacterAtATime()
+{
+    QRandomGenerator random(20261121);
+    for (int round = 0; round < 300; ++round) {
+        const ZARNAttributedString text = randomText(random);
+        const float width = float(random.bounded(5, 260)) + float(random.bounded(100)) / 100.0f;
+        QCOMPARE(TruncateAttributedString(text, width), stepByStep(text, width));
+    }
+}
+
+void TestTruncation::textThatFitsIsUnchanged()
+{
+    const ZARNAttributedString text(u"Fits exactly"_s, attributes(12));
+    const float exact = widthOf(text) + 4.0f;
+    QCOMPARE(TruncateAttributedString(text, exact), text);
+    QVERIFY(TruncateAttributedString(text, exact - 0.5f).string().endsWith(u"..."_s));
+}
+
+void TestTruncation::lastCharacterGivesWayFirst()
+{
+    // Just too wide: the last character makes room for the dots, so at most five of six remain.
+    const ZARNAttributedString text(u"abcdef"_s, attributes(12));
+    const QString shortened = TruncateAttributedString(text, widthOf(text) + 3.9f).string();
+    QVERIFY2(shortened.endsWith(u"..."_s) && shortened.size() <= 8, qPrintable(shortened));
+    QVERIFY(u"abcde"_s.startsWith(shortened.chopped(3)));
+}
+
+void TestTruncation::dotsTakeTheLastCharactersAttributes()
+{
+    ZARNAttributedString text(u"Warning: disk full"_s, attributes(12));
+    text.setAttributes(attributes(14, Qt::red, true), {17, 1});
+    const ZARNAttributedString shortened = TruncateAttributedString(text, 90);
+    const qsizetype dotsAt = shortened.length() - 3;
+    QCOMPARE(shortened.attributedSubstring({dotsAt, 3}).string(), u"..."_s);
+    QCOMPARE(shortened.attributesAtIndex(dotsAt), attributes(14, Qt::red, true));
+    QCOMPARE(shortened.attributesAtIndex(0), attributes(12));
+}
+
+void TestTruncation::nothingFitsLeavesTheDots()
+{
+    const ZARNAttributedString text(u"Much too long"_s, attributes(12));
+    QCOMPARE(TruncateAttributedString(text, 5).string(), u"..."_s);
+    QCOMPARE(TruncateStringWithAttributes(u"Much too long"_s, attributes(12), -100), u"..."_s);
+}
+
+void TestTruncation::emptyString()
+{
+    QCOMPARE(TruncateAttributedString(ZARNAttributedString(), 4.0f), ZARNAttributedString());
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, TruncateAttributedString(ZARNAttributedString(), 3.9f));
+    QVERIFY(TruncateStringWithAttributes(QString(), {}, 100).isNull());
+}
+
+void TestTruncation::labelIsShortenedInPlace()
+{
+    QLabel label(u"Quarterly report for the whole company"_s);
+    label.setFont(font(11));
+    const QString original = label.text();
+    TruncateStringInCell(&label, 1000);
+    QCOMPARE(label.text(), original);
+
+    TruncateStringInCell(&label, 120);
+    QVERIFY(label.text().endsWith(u"..."_s));
+    QVERIFY(original.startsWith(label.text().chopped(3)));
+    QVERIFY(QFontMetricsF(label.font()).horizontalAdvance(label.text()) <= 116.01);
+    TruncateStringInCell(static_cast<QLabel *>(nullptr), 10);   // does nothing
+}
+
+void TestTruncation::modelItemKeepsItsFont()
+{
+    QStandardItem small(u"Mississippi riverboat"_s);
+    small.setFont(font(8));
+    QStandardItem large(small.text());
+    large.setFont(font(16));
+    TruncateStringInCell(&small, 80);
+    TruncateStringInCell(&large, 80);
+    QVERIFY(small.text().size() > large.text().size());
+    QVERIFY(large.text().endsWith(u"..."_s));
+}
+
+void TestTruncation::labelTooNarrowForTheDotsThrows()
+{
+    QLabel label(u"Anything"_s);
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, TruncateStringInCell(&label, 4.5f));
+    QCOMPARE(label.text(), u"..."_s);
+}
+
+void TestTruncation::heightForWidth()
+{
+    const QFontMetricsF metrics(font(12));
+    const ZARNAttributedString line(u"One line"_s, attributes(12));
+    const float lineHeight = ZARNAttributedStringHeightForWidth(line, 500);
+    QVERIFY(qAbs(lineHeight - metrics.lineSpacing()) < 1);   // whole pixels per line
+    QCOMPARE(ZARNAttributedStringHeightForWidth(ZARNAttributedString(), 500), 0.0f);
+
+    const ZARNAttributedString paragraph(u"Several words that wrap onto more than one line"_s, attributes(12));
+    const float narrow = ZARNAttributedStringHeightForWidth(paragraph, 80);
+    QVERIFY(narrow >= 3 * lineHeight);
+    QCOMPARE(std::fmod(narrow, lineHeight), 0.0f);
+    // The shared layout keeps nothing from one call to the next.
+    QCOMPARE(ZARNAttributedStringHeightForWidth(line, 500), lineHeight);
+    QCOMPARE(ZARNAttributedStringHeightForWidth(paragraph, 80), narrow);
+
+    const ZARNAttributedString tall(QString(2000, u'W'), attributes(12));
+    const float capped = ZARNAttributedStringHeightForWidth(tall, 1);
+    QVERIFY(capped <= 10000.0f && capped > 10000.0f - lineHeight);
+}
+
+QTEST_MAIN(TestTruncation)
+#include "tst_truncation.moc"
