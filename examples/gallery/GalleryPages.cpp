@@ -23,7 +23,7 @@ GalleryPage placeholder(const QString &name)
 QList<GalleryPage> galleryPages()
 {
     return {
-        placeholder(QObject::tr("Values")),
+        {QObject::tr("Values"), createValuesPage},
         {QObject::tr("Drawing"), createDrawingPage},
         placeholder(QObject::tr("Tables")),
         placeholder(QObject::tr("Controls")),

@@ -16,6 +16,7 @@ struct GalleryPage
 };
 
 /// The pages built so far; each shows one layer of the library.
+QWidget *createValuesPage();
 QWidget *createDrawingPage();
 
 /// Every page, in the order the gallery lists them.
