@@ -6,6 +6,7 @@
 #include <Brixel/NSBezierPath_Category.h>
 #include <Brixel/ZARNImageComposition.h>
 #include <Brixel/ZARNShading.h>
+#include <Brixel/ZARNTextTruncation.h>
 
 #include <QColorDialog>
 #include <QGridLayout>
@@ -14,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QSlider>
+#include <QTextLayout>
 #include <QVBoxLayout>
 
 namespace {
@@ -205,6 +207,69 @@ QWidget *badgesBox()
     return box;
 }
 
+ZARNAttributedString attributedSample(const QFont &font)
+{
+    QFont bold = font;
+    bold.setBold(true);
+    ZARNAttributedString text(QObject::tr("Invoice 2026-114 from Northwind Traders is overdue"),
+                              {{ZARNFontAttributeName, font}});
+    text.setAttributes({{ZARNFontAttributeName, bold}, {ZARNForegroundColorAttributeName, QColor(180, 30, 30)}},
+                       {text.length() - 7, 7});
+    return text;
+}
+
+// Paints an attributed string with its fonts and colours.
+class AttributedLabel : public QWidget
+{
+public:
+    AttributedLabel() { setMinimumHeight(fontMetrics().height() + 6); }
+    ZARNAttributedString text;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        QTextLayout layout(text.string(), font());
+        layout.setFormats(text.formatRanges());
+        layout.beginLayout();
+        layout.createLine().setLineWidth(1e6);
+        layout.endLayout();
+        layout.draw(&painter, {0, 3});
+    }
+};
+
+QWidget *truncationBox()
+{
+    auto *box = new QGroupBox(QObject::tr("Truncation to a width"));
+    auto *width = new QSlider(Qt::Horizontal);
+    width->setRange(10, 420);
+    width->setValue(230);
+    auto *plain = new QLabel;
+    auto *attributed = new AttributedLabel;
+    auto *height = new QLabel;
+    const QString sample = QObject::tr("The quarterly report for every office and every region, with totals");
+    const auto update = [=] {
+        plain->setText(sample);
+        try {
+            TruncateStringInCell(plain, float(width->value()));
+        } catch (const std::out_of_range &) {
+            // Narrower than "..." plus its margin: the label keeps showing the dots.
+        }
+        attributed->text = TruncateAttributedString(attributedSample(attributed->font()), float(width->value()));
+        attributed->update();
+        const float measured = ZARNAttributedStringHeightForWidth(attributedSample(attributed->font()), float(width->value()));
+        height->setText(QObject::tr("Wrapped to %1 points the text is %2 points high").arg(width->value()).arg(measured));
+    };
+    update();
+    QObject::connect(width, &QSlider::valueChanged, box, update);
+    auto *layout = new QVBoxLayout(box);
+    layout->addWidget(width);
+    layout->addWidget(plain);
+    layout->addWidget(attributed);
+    layout->addWidget(height);
+    return box;
+}
+
 } // namespace
 
 QWidget *createDrawingPage()
@@ -217,6 +282,7 @@ QWidget *createDrawingPage()
     layout->addWidget(shadingBox(), 0, 2, 2, 1);
     layout->addWidget(nineSliceBox(), 1, 0);
     layout->addWidget(badgesBox(), 1, 1);
-    layout->setRowStretch(2, 1);
+    layout->addWidget(truncationBox(), 2, 0, 1, 3);
+    layout->setRowStretch(3, 1);
     return page;
 }
