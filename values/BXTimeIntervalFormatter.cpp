@@ -6,11 +6,8 @@
 #include <QList>
 
 #include <algorithm>
-#include <charconv>
 #include <climits>
 #include <cmath>
-#include <string>
-#include <string_view>
 
 namespace {
 
@@ -67,69 +64,6 @@ double clamped(double value, double minimum, double maximum)
     if (value > maximum)
         value = maximum;
     return value;
-}
-
-// For a decimal number that from_chars found out of range: whether it is too large (rather
-// than too small), from the position of its first significant digit plus its exponent.
-bool isTooLarge(std::string_view number)
-{
-    long long magnitude = 0;
-    bool significant = false;
-    bool afterPoint = false;
-    std::size_t at = 0;
-    for (; at < number.size() && number[at] != 'e' && number[at] != 'E'; ++at) {
-        if (number[at] == '.') {
-            afterPoint = true;
-        } else if (significant || number[at] != '0') {
-            significant = true;
-            if (!afterPoint)
-                ++magnitude;
-        } else if (afterPoint) {
-            --magnitude;
-        }
-    }
-    long long exponent = 0;
-    bool negativeExponent = false;
-    if (++at < number.size() && (number[at] == '+' || number[at] == '-'))
-        negativeExponent = number[at++] == '-';
-    // Saturate: anything this far out is out of range whatever the digits before it.
-    for (; at < number.size(); ++at)
-        exponent = std::min(exponent * 10 + (number[at] - '0'), 1LL << 40);
-    return magnitude + (negativeExponent ? -exponent : exponent) > 0;
-}
-
-// The leading decimal number of text, read as C's strtod reads one: white space first, an
-// optional sign, digits with an optional point and exponent, the rest ignored. Text without
-// a number reads as 0. Hexadecimal numbers, "inf" and "nan" are not numbers here.
-double leadingNumber(QStringView text)
-{
-    qsizetype at = 0;
-    while (at < text.size() && text[at].isSpace())
-        ++at;
-    bool negative = false;
-    if (at < text.size() && (text[at] == u'+' || text[at] == u'-'))
-        negative = text[at++] == u'-';
-
-    // Gather the characters a decimal number is made of; from_chars finds where it ends.
-    std::string number;
-    for (; at < text.size(); ++at) {
-        const char16_t c = text[at].unicode();
-        const bool numeric = (c >= u'0' && c <= u'9') || c == u'.' || c == u'e' || c == u'E' || c == u'+' || c == u'-';
-        if (!numeric)
-            break;
-        number.push_back(char(c));
-    }
-    // A second sign ("+-5") is no number, and from_chars would read "-5".
-    if (number.empty() || number.front() == '+' || number.front() == '-')
-        return 0.0;
-
-    double value = 0.0;
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (error == std::errc::invalid_argument)
-        return 0.0;
-    if (error == std::errc::result_out_of_range)
-        value = isTooLarge(std::string_view(number.data(), std::size_t(end - number.data()))) ? HUGE_VAL : 0.0;
-    return negative ? -value : value;
 }
 
 // trunc(value / scalar) modulo trunc(base) on 32-bit integers, so a negative value gives a
@@ -213,7 +147,7 @@ int BXTimeIntervalFormatter::_componentCount() const
 
 double BXTimeIntervalFormatter::_valueForComponentString(QStringView string, int componentType) const
 {
-    return leadingNumber(string) * _BXTimeIntervalComponentScalar(componentType);
+    return brixel::leadingNumber(string) * _BXTimeIntervalComponentScalar(componentType);
 }
 
 QString BXTimeIntervalFormatter::stringForObjectValue(const QVariant &object) const

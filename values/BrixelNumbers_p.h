@@ -37,6 +37,14 @@ inline QString fixedText(double value, int decimals)
     return QString::fromLatin1(buffer, result.ptr - buffer);
 }
 
+/**
+ * The decimal number at the start of \a text, read as C's strtod reads one: blanks first,
+ * an optional sign, digits with an optional point and exponent, the rest ignored. Text
+ * without a number reads as 0; a number too large gives an infinity and one too small 0.
+ * Hexadecimal numbers, "inf" and "nan" are not numbers here.
+ */
+double leadingNumber(QStringView text);
+
 /// \a value as "%i", with a "0" in front when it is below ten (negative values included).
 inline QString zeroPaddedBelowTen(int value)
 {
