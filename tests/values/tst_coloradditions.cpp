@@ -21,7 +21,6 @@ void TestColorAdditions::read_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QColor>("expected");
 
-    QTest::newRow("red at half alpha") << u"1,0,0,0.5"_s << QColor::fromRgbF(1, 0, 0, 0.5f);
     QTest::newRow("three parts give black") << u"1,0,0"_s << QColor::fromRgbF(0, 0, 0, 1);
     QTest::newRow("further parts ignored") << u"0.25,0.5,0.75,1,junk"_s << QColor::fromRgbF(0.25f, 0.5f, 0.75f, 1);
     QTest::newRow("leading number of each part") << u" \t0.2x, .5 ,+1e-1,25E-2%"_s
@@ -44,8 +43,7 @@ void TestColorAdditions::write_data()
     QTest::addColumn<QColor>("color");
     QTest::addColumn<QString>("text");
 
-    QTest::newRow("red at half alpha") << QColor::fromRgbF(1, 0, 0, 0.5f) << u"1.00000,0.00000,0.00000,0.50000"_s;
-    QTest::newRow("eight-bit components") << QColor(128, 64, 255) << u"0.50196,0.25098,1.00000,1.00000"_s;
+    QTest::newRow("eight-bit components") << QColor(128, 64, 255, 128) << u"0.50196,0.25098,1.00000,0.50196"_s;
     QTest::newRow("other specs convert to RGB") << QColor::fromHsvF(0, 1, 1) << u"1.00000,0.00000,0.00000,1.00000"_s;
     QTest::newRow("invalid is opaque black") << QColor() << u"0.00000,0.00000,0.00000,1.00000"_s;
 }

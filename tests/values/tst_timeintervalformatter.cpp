@@ -47,22 +47,17 @@ private Q_SLOTS:
 
 void TestTimeIntervalFormatter::initialisersAndSetters()
 {
-    const BXTimeIntervalFormatter plain;
-    QCOMPARE(plain.stringForObjectValue(0.0), u"0:00:00:00:00"_s);
-    QCOMPARE(plain.minimumTimeInterval(), -4294967295.0);
-    QCOMPARE(plain.maximumTimeInterval(), 4294967295.0);
-
+    QCOMPARE(BXTimeIntervalFormatter().stringForObjectValue(0.0), u"0:00:00:00:00"_s);
     BXTimeIntervalFormatter full(1, 3, -5.0, 5.0, QString(), 7);
     QCOMPARE(full.componentSeparator(), u":"_s);
     QCOMPARE(full.componentStyle(), 7); // unchecked in the initialiser only
-    for (const auto &[style, stored] : {std::pair(1, 1), {2, 0}, {1, 1}, {-1, 0}}) {
+    for (const auto &[style, stored] : {std::pair(1, 1), {2, 0}, {-1, 0}}) {
         full.setComponentStyle(style);
         QCOMPARE(full.componentStyle(), stored);
     }
     full.setComponentSeparator(u" "_s);
     full.setComponentSeparator(QString());
     QCOMPARE(full.componentSeparator(), u":"_s);
-    QCOMPARE(BXTimeIntervalFormatter(INT_MIN, INT_MAX)._componentCount(), INT_MAX);
 }
 
 void TestTimeIntervalFormatter::format_data()
@@ -72,13 +67,11 @@ void TestTimeIntervalFormatter::format_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("one of each, weeks to seconds") << components(0, 4) << QVariant(694861.0) << u"1:01:01:01:01"_s;
-    QTest::newRow("hours to seconds") << components(0, 2) << QVariant(3909.0) << u"1:05:09"_s;
     QTest::newRow("largest component never wraps") << components(0, 2) << QVariant(360000.0) << u"100:00:00"_s;
     QTest::newRow("fraction dropped") << components(0, 1) << QVariant(127.9) << u"2:07"_s;
     QTest::newRow("milliseconds") << components(0, 1, true) << QVariant(127.25) << u"2:07.250"_s;
     QTest::newRow("milliseconds tie rounds to even") << components(0, 1, true) << QVariant(0.0625) << u"0:00.062"_s;
     QTest::newRow("milliseconds only for seconds") << components(1, 2, true) << QVariant(3909.5) << u"1:05"_s;
-    QTest::newRow("minutes alone") << components(1, 1) << QVariant(150.0) << u"2"_s;
     QTest::newRow("seconds alone divide by the base") << components(0, 0) << QVariant(150.0) << u"2"_s;
     QTest::newRow("seconds alone with milliseconds") << components(0, 0, true) << QVariant(150.0) << u"150.000"_s;
     QTest::newRow("minimum above maximum") << components(3, 1) << QVariant(70.0) << u"10"_s;
@@ -95,7 +88,6 @@ void TestTimeIntervalFormatter::format_data()
     QTest::newRow("above the maximum") << clamped(0, 600) << QVariant(3909.0) << u"10:00"_s;
     QTest::newRow("below the minimum") << clamped(90, 600) << QVariant(5.0) << u"1:30"_s;
     QTest::newRow("crossed bounds give the maximum") << clamped(100, 50) << QVariant(10.0) << u"0:50"_s;
-    QTest::newRow("infinity clamped") << clamped(0, 600) << QVariant(infinity) << u"10:00"_s;
     QTest::newRow("infinity unclamped") << clamped(0, infinity) << QVariant(infinity) << u"-2147483648:0-8"_s;
     QTest::newRow("reserved style") << clamped(0, 600, 7) << QVariant(5.0) << u""_s;
     QTest::newRow("words as separator") << separated(u"h "_s) << QVariant(3909.0) << u"1h 05h 09"_s;
@@ -117,8 +109,7 @@ void TestTimeIntervalFormatter::parse_data()
 
     const BXTimeIntervalFormatter clock = components(0, 2);
     QTest::newRow("hours to seconds") << clock << u"1:05:09"_s << 3909.0;
-    QTest::newRow("fraction dropped") << clock << u"2:07.250"_s << 127.0;
-    QTest::newRow("fraction kept with milliseconds") << components(0, 1, true) << u"2:07.250"_s << 127.25;
+    QTest::newRow("fraction kept only with milliseconds") << components(0, 1, true) << u"2:07.250"_s << 127.25;
     QTest::newRow("negative fraction truncates toward zero") << clock << u"-2.5"_s << -2.0;
     QTest::newRow("last piece is the minimum component") << components(1, 3) << u"2:30"_s << 9000.0;
     QTest::newRow("pieces beyond weeks count seconds") << clock << u"1:2:3:4:5:6:7"_s << 2178370.0;
@@ -133,7 +124,6 @@ void TestTimeIntervalFormatter::parse_data()
     QTest::newRow("underflow") << components(0, 1, true) << u"1e-400"_s << 0.0;
     QTest::newRow("many digits overflow") << components(0, 1, true) << QString(400, u'9') << 4294967295.0;
     QTest::newRow("overflow beyond 32 bits") << clock << u"1e999"_s << -2147483648.0;
-    QTest::newRow("beyond 32 bits") << clock << u"3000000000.3"_s << -2147483648.0;
     QTest::newRow("clamped") << clamped(10, 20) << u"1:00"_s << 20.0;
     QTest::newRow("reserved style reads zero") << clamped(10, 20, 1) << u"1:05:09"_s << 10.0;
     QTest::newRow("empty separator does not split") << separated(u""_s) << u"1:05"_s << 1.0;
