@@ -31,7 +31,7 @@ BRIXEL_EXPORT QColor colorFromCalibratedRGBString(const QString &string);
 
 /**
  * \a color as "%.5f,%.5f,%.5f,%.5f" of its red, green, blue and alpha, after converting it to
- * RGB if it is in another spec. An invalid colour is written as opaque black.
+ * RGB if it is held in another colour model. An invalid colour is written as opaque black.
  *
  * QColor keeps 16 bits per component, which is finer than the text's last decimal but does not
  * hold every five-decimal value exactly. Each component is therefore written as the shortest
