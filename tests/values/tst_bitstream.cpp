@@ -139,6 +139,7 @@ private Q_SLOTS:
     void reads_data();
     void reads();
     void matchesBitAtATimeReading();
+    void longCodesAtEveryAlignment();
 };
 
 void TestBitstream::reads_data()
@@ -196,6 +197,38 @@ void TestBitstream::reads()
     }
     QCOMPARE(read, values);
     QCOMPARE(stream.location(), location);
+}
+
+// Codes with 0 to 31 leading zeros, written after every number of one-bit codes from 0 to
+// 63, so that each code length meets the look-ahead word at every alignment.
+void TestBitstream::longCodesAtEveryAlignment()
+{
+    for (int lead = 0; lead < 64; ++lead) {
+        QByteArray bytes;
+        qint64 written = 0;
+        const auto write = [&](quint64 bits, int count) {
+            for (int bit = count - 1; bit >= 0; --bit, ++written) {
+                if (written % 8 == 0)
+                    bytes.append('\0');
+                if ((bits >> bit) & 1)
+                    bytes[written / 8] = char(bytes[written / 8] | (0x80 >> (written % 8)));
+            }
+        };
+        QList<quint32> expected(lead, 0u);
+        write(~0ull, lead);
+        for (int zeros = 0; zeros < 32; ++zeros) {
+            const quint64 suffix = 0xB6DB6DB7u & ((quint64(1) << zeros) - 1);   // last bit set
+            write(0, zeros);
+            write((quint64(1) << zeros) | suffix, zeros + 1);
+            expected << quint32((quint64(1) << zeros) - 1 + suffix);
+        }
+        write(0, 128);   // room for full look-ahead loads after the last code
+        ZARNBitstream stream(bytes);
+        QList<quint32> read;
+        for (qsizetype code = 0; code < expected.size(); ++code)
+            read << stream.readExpGolomb();
+        QCOMPARE(read, expected);
+    }
 }
 
 void TestBitstream::matchesBitAtATimeReading()
