@@ -210,7 +210,7 @@ void TestBitstream::longCodesAtEveryAlignment()
             for (int bit = count - 1; bit >= 0; --bit, ++written) {
                 if (written % 8 == 0)
                     bytes.append('\0');
-                if ((bits >> bit) & 1)
+                if (bit < 64 && ((bits >> bit) & 1))
                     bytes[written / 8] = char(bytes[written / 8] | (0x80 >> (written % 8)));
             }
         };
