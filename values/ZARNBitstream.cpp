@@ -93,7 +93,7 @@ quint32 foldedBits(const std::optional<QByteArray> &data, qint64 readable, qint6
     const qint64 misalignment = (32 - ((count - first) & 31)) & 31;
     quint32 value = 0;
     for (qint64 group = first - misalignment; group < end; group += 32) {
-        quint32 word = quint32(peek64(data, readable, start + group) >> 32);
+        quint32 word = quint32(peek64(data, readable, saturatingAdd(start, group)) >> 32);
         if (group < first)
             word &= ~quint32(0) >> (first - group);
         value |= word;
