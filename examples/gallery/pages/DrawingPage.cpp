@@ -103,22 +103,31 @@ QWidget *shadingBox()
     return box;
 }
 
+// A transparent image of \a size with \a draw's antialiased painting on it.
+template<typename Draw>
+QImage artwork(QSize size, Draw &&draw)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    draw(painter);
+    return image;
+}
+
 // A 30 x 30 frame: a dark border, lighter inner ring and a pale centre, so every one of the
 // nine pieces shows where it lands.
 QImage frameArtwork()
 {
-    QImage frame(30, 30, QImage::Format_ARGB32_Premultiplied);
-    frame.fill(Qt::transparent);
-    QPainter painter(&frame);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(60, 60, 70));
-    painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(QRectF(0, 0, 30, 30), 8, 8);
-    painter.setBrush(QColor(230, 180, 60));
-    painter.drawRoundedRect(QRectF(3, 3, 24, 24), 6, 6);
-    painter.setBrush(QColor(250, 245, 230));
-    painter.drawRect(QRectF(10, 10, 10, 10));
-    return frame;
+    return artwork({30, 30}, [](QPainter &painter) {
+        painter.setBrush(QColor(60, 60, 70));
+        painter.drawRoundedRect(QRectF(0, 0, 30, 30), 8, 8);
+        painter.setBrush(QColor(230, 180, 60));
+        painter.drawRoundedRect(QRectF(3, 3, 24, 24), 6, 6);
+        painter.setBrush(QColor(250, 245, 230));
+        painter.drawRect(QRectF(10, 10, 10, 10));
+    });
 }
 
 class StretchedFrame : public QWidget
@@ -163,26 +172,19 @@ QWidget *nineSliceBox()
 
 QImage iconArtwork()
 {
-    QImage icon(36, 36, QImage::Format_ARGB32_Premultiplied);
-    icon.fill(Qt::transparent);
-    QPainter painter(&icon);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(90, 160, 90));
-    painter.setPen(QPen(QColor(30, 80, 30), 2));
-    painter.drawEllipse(QRectF(3, 3, 30, 30));
-    return icon;
+    return artwork({36, 36}, [](QPainter &painter) {
+        painter.setBrush(QColor(90, 160, 90));
+        painter.setPen(QPen(QColor(30, 80, 30), 2));
+        painter.drawEllipse(QRectF(3, 3, 30, 30));
+    });
 }
 
 QImage badgeArtwork()
 {
-    QImage badge(12, 12, QImage::Format_ARGB32_Premultiplied);
-    badge.fill(Qt::transparent);
-    QPainter painter(&badge);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(QColor(220, 40, 40));
-    painter.setPen(Qt::NoPen);
-    painter.drawEllipse(QRectF(0, 0, 12, 12));
-    return badge;
+    return artwork({12, 12}, [](QPainter &painter) {
+        painter.setBrush(QColor(220, 40, 40));
+        painter.drawEllipse(QRectF(0, 0, 12, 12));
+    });
 }
 
 QLabel *imageLabel(const QImage &image, const QString &tip)
