@@ -1,0 +1,460 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "ZARNOutlineView.h"
+
+#include "ZARNItemViewBehaviour.h"
+#include "ZARNOutlineViewDelegate.h"
+
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QScrollBar>
+
+namespace {
+
+// How far a click is moved right when its item hides the disclosure marker: the marker's
+// width, so the click lands on the row's content.
+constexpr qreal HiddenMarkerClickShift = 20.0;
+
+// A copy of \a event with every position moved \a dx to the right.
+std::unique_ptr<QMouseEvent> shiftedEvent(const QMouseEvent &event, qreal dx)
+{
+    const QPointF delta(dx, 0.0);
+    auto shifted = std::make_unique<QMouseEvent>(event.type(), event.position() + delta, event.scenePosition() + delta,
+                                                 event.globalPosition() + delta, event.button(), event.buttons(),
+                                                 event.modifiers(), event.pointingDevice());
+    shifted->setTimestamp(event.timestamp());
+    return shifted;
+}
+
+// Saved look of one scroll bar: whether it was enabled in its own right (an ancestor being
+// disabled does not count). A bar whose policy keeps it hidden counts as not enabled.
+bool scrollBarWasEnabled(const QScrollBar *bar, Qt::ScrollBarPolicy policy)
+{
+    return policy != Qt::ScrollBarAlwaysOff && !bar->testAttribute(Qt::WA_ForceDisabled);
+}
+
+void restoreScrollBar(QScrollBar *bar, Qt::ScrollBarPolicy policy, bool enable)
+{
+    if (policy != Qt::ScrollBarAlwaysOff)
+        bar->setEnabled(enable);
+}
+
+int countShownRows(const QTreeView &view, const QModelIndex &parent)
+{
+    const QAbstractItemModel *model = view.model();
+    int rows = 0;
+    for (int row = 0, count = model->rowCount(parent); row < count; ++row) {
+        if (view.isRowHidden(row, parent))
+            continue;
+        ++rows;
+        const QModelIndex item = model->index(row, 0, parent);
+        if (view.isExpanded(item))
+            rows += countShownRows(view, item);
+    }
+    return rows;
+}
+
+} // namespace
+
+class ZARNOutlineViewPrivate
+{
+public:
+    explicit ZARNOutlineViewPrivate(ZARNOutlineView *view);
+
+    QModelIndex rowItemAt(QPoint point) const;
+    bool showsMarkerFor(const QModelIndex &item) const;
+    qreal clickShiftAt(QPoint point) const;
+    void contextClick(QPoint point);
+    void finishDrop(bool deposited);
+    void applyEnabledState(bool enabled);
+
+    ZARNOutlineView *const q;
+    brixel::ItemViewBehaviour *const behaviour;
+    ZARNOutlineViewDelegate *delegate = nullptr;
+    quint32 highlightStyle = 0;
+    int lastHighlightGradientRowHeight = -1;
+    bool highlightFollowsIndentation = true;
+    bool showsIndentationMarker = true;
+    bool collapseForDeposits = false;
+    bool collapseForFailedDeposits = true;
+    bool drawsBranchIndicators = true;
+
+    // The horizontal shift of the click in progress, from its press to its release.
+    qreal clickShift = 0.0;
+    // True while an event is with QTreeView, which may call the press handler itself.
+    bool forwardingMouse = false;
+
+    bool trackingDrop = false;
+    QList<QPersistentModelIndex> autoExpanded;
+
+    bool savedVerticalScrollBarEnabled = false;
+    bool savedHorizontalScrollBarEnabled = false;
+};
+
+ZARNOutlineViewPrivate::ZARNOutlineViewPrivate(ZARNOutlineView *view)
+    : q(view)
+    , behaviour(new brixel::ItemViewBehaviour(view, [view] { view->updateGeometries(); }))
+{
+}
+
+QModelIndex ZARNOutlineViewPrivate::rowItemAt(QPoint point) const
+{
+    // Rows are found by height alone, as in a table: look in the first shown column.
+    const QHeaderView *header = q->header();
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (!header->isSectionHidden(logical))
+            return q->indexAt({header->sectionViewportPosition(logical), point.y()}).siblingAtColumn(0);
+    }
+    return {};
+}
+
+bool ZARNOutlineViewPrivate::showsMarkerFor(const QModelIndex &item) const
+{
+    const std::optional<bool> answer = delegate ? delegate->outlineViewShouldShowIndentationMarkerForItem(q, item) : std::nullopt;
+    return answer.value_or(showsIndentationMarker);
+}
+
+qreal ZARNOutlineViewPrivate::clickShiftAt(QPoint point) const
+{
+    const QModelIndex item = rowItemAt(point);
+    return item.isValid() && !showsMarkerFor(item) ? HiddenMarkerClickShift : 0.0;
+}
+
+void ZARNOutlineViewPrivate::contextClick(QPoint point)
+{
+    const QModelIndex item = rowItemAt(point);
+    if (!item.isValid())
+        return;
+    if (!q->selectionModel()->rowIntersectsSelection(item.row(), item.parent()))
+        brixel::selectRowAlone(q, item);
+    q->viewport()->update();
+}
+
+void ZARNOutlineViewPrivate::finishDrop(bool deposited)
+{
+    trackingDrop = false;
+    const QList<QPersistentModelIndex> opened = std::exchange(autoExpanded, {});
+    if (!q->shouldCollapseAutoExpandedItemsForDeposited(deposited))
+        return;
+    // Innermost first, the reverse of the order the drag opened them.
+    for (auto it = opened.crbegin(); it != opened.crend(); ++it) {
+        if (it->isValid())
+            q->collapse(*it);
+    }
+}
+
+void ZARNOutlineViewPrivate::applyEnabledState(bool enabled)
+{
+    if (!enabled)
+        q->saveState();
+    restoreScrollBar(q->verticalScrollBar(), q->verticalScrollBarPolicy(), enabled && savedVerticalScrollBarEnabled);
+    restoreScrollBar(q->horizontalScrollBar(), q->horizontalScrollBarPolicy(), enabled && savedHorizontalScrollBarEnabled);
+}
+
+ZARNOutlineView::ZARNOutlineView(QWidget *parent)
+    : QTreeView(parent)
+    , d(std::make_unique<ZARNOutlineViewPrivate>(this))
+{
+    connect(this, &QTreeView::expanded, this, [this](const QModelIndex &item) {
+        if (d->trackingDrop)
+            d->autoExpanded.append(item);
+    });
+    connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
+}
+
+ZARNOutlineView::~ZARNOutlineView() = default;
+
+ZARNOutlineViewDelegate *ZARNOutlineView::delegate() const
+{
+    return d->delegate;
+}
+
+void ZARNOutlineView::setDelegate(ZARNOutlineViewDelegate *delegate)
+{
+    d->delegate = delegate;
+}
+
+QMenu *ZARNOutlineView::menu() const
+{
+    return d->behaviour->menu();
+}
+
+void ZARNOutlineView::setMenu(QMenu *menu)
+{
+    d->behaviour->setMenu(menu);
+}
+
+quint32 ZARNOutlineView::highlightStyle() const
+{
+    return d->highlightStyle;
+}
+
+void ZARNOutlineView::setHighlightStyle(quint32 style)
+{
+    d->highlightStyle = style;
+}
+
+bool ZARNOutlineView::highlightFollowsIndentation() const
+{
+    return d->highlightFollowsIndentation;
+}
+
+void ZARNOutlineView::setHighlightFollowsIndentation(bool follows)
+{
+    d->highlightFollowsIndentation = follows;
+}
+
+bool ZARNOutlineView::showsIndentationMarker() const
+{
+    return d->showsIndentationMarker;
+}
+
+void ZARNOutlineView::setShowsIndentationMarker(bool shows)
+{
+    d->showsIndentationMarker = shows;
+}
+
+bool ZARNOutlineView::shouldCollapseAutoExpandedItemsForDeposits() const
+{
+    return d->collapseForDeposits;
+}
+
+void ZARNOutlineView::setShouldCollapseAutoExpandedItemsForDeposits(bool collapse)
+{
+    d->collapseForDeposits = collapse;
+}
+
+bool ZARNOutlineView::shouldCollapseAutoExpandedItemsForFailedDeposits() const
+{
+    return d->collapseForFailedDeposits;
+}
+
+void ZARNOutlineView::setShouldCollapseAutoExpandedItemsForFailedDeposits(bool collapse)
+{
+    d->collapseForFailedDeposits = collapse;
+}
+
+bool ZARNOutlineView::shouldCollapseAutoExpandedItemsForDeposited(bool deposited) const
+{
+    return deposited ? d->collapseForDeposits : d->collapseForFailedDeposits;
+}
+
+bool ZARNOutlineView::inDragPrep() const
+{
+    return d->behaviour->inDragPrep();
+}
+
+bool ZARNOutlineView::inLiveResize() const
+{
+    return d->behaviour->inLiveResize();
+}
+
+bool ZARNOutlineView::acceptsFirstResponder() const
+{
+    return isEnabled();
+}
+
+bool ZARNOutlineView::drawsBranchIndicators() const
+{
+    return d->drawsBranchIndicators;
+}
+
+void ZARNOutlineView::setDrawsBranchIndicators(bool draws)
+{
+    d->drawsBranchIndicators = draws;
+    viewport()->update();
+}
+
+int ZARNOutlineView::numberOfRows() const
+{
+    return model() ? countShownRows(*this, rootIndex()) : 0;
+}
+
+int ZARNOutlineView::lastHighlightGradientRowHeight() const
+{
+    return d->lastHighlightGradientRowHeight;
+}
+
+void ZARNOutlineView::saveState()
+{
+    d->savedVerticalScrollBarEnabled = scrollBarWasEnabled(verticalScrollBar(), verticalScrollBarPolicy());
+    d->savedHorizontalScrollBarEnabled = scrollBarWasEnabled(horizontalScrollBar(), horizontalScrollBarPolicy());
+}
+
+void ZARNOutlineView::tile2()
+{
+    qInfo("numberOfRows:  %i (%llx)", numberOfRows(), static_cast<unsigned long long>(reinterpret_cast<quintptr>(this)));
+    updateGeometries();
+}
+
+void ZARNOutlineView::deleteBackward()
+{
+    if (d->delegate)
+        d->delegate->outlineViewDeleteBackward(this);
+}
+
+void ZARNOutlineView::userDefaultsDidChange()
+{
+    d->lastHighlightGradientRowHeight = -1;
+}
+
+bool ZARNOutlineView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool editing = QTreeView::edit(index, trigger, event);
+    // The editor sits on the row's own drawing, so it paints no background or frame.
+    if (auto *editor = editing ? qobject_cast<QLineEdit *>(indexWidget(index)) : nullptr) {
+        editor->setAutoFillBackground(false);
+        editor->setFrame(false);
+        QPalette palette = editor->palette();
+        palette.setColor(QPalette::Base, Qt::transparent);
+        editor->setPalette(palette);
+    }
+    return editing;
+}
+
+void ZARNOutlineView::keyPressEvent(QKeyEvent *event)
+{
+    if (!isEnabled())
+        return;
+    switch (brixel::keyRole(event->key())) {
+    case brixel::KeyRole::ReturnKey:
+        if (d->delegate)
+            d->delegate->outlineViewReturnKey(this);
+        return;
+    case brixel::KeyRole::DeleteBackward:
+        deleteBackward();
+        return;
+    case brixel::KeyRole::SelectionMove:
+        if (d->behaviour->moveChangesSelectedRow([&] { QTreeView::keyPressEvent(event); }) && d->delegate)
+            d->delegate->outlineViewSelectionIsChanging({QString(NSTableViewSelectionIsChangingNotification), this, {}});
+        return;
+    case brixel::KeyRole::Other:
+        QTreeView::keyPressEvent(event);
+        return;
+    }
+}
+
+// Each mouse handler hands the event to QTreeView moved by the click's shift; QTreeView may
+// call mousePressEvent() itself (from a double click), which then goes straight through.
+void ZARNOutlineView::mousePressEvent(QMouseEvent *event)
+{
+    if (d->forwardingMouse) {
+        QTreeView::mousePressEvent(event);
+        return;
+    }
+    if (!isEnabled())
+        return;
+    if (event->button() == Qt::RightButton) {
+        d->contextClick(event->position().toPoint());
+        return;
+    }
+    d->clickShift = d->clickShiftAt(event->position().toPoint());
+    const auto shifted = shiftedEvent(*event, d->clickShift);
+    d->forwardingMouse = true;
+    QTreeView::mousePressEvent(shifted.get());
+    event->setAccepted(shifted->isAccepted());
+    d->forwardingMouse = false;
+    if (brixel::controlClickSelectsFirst(event))
+        d->behaviour->showMenu(event->globalPosition().toPoint());
+}
+
+void ZARNOutlineView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!isEnabled())
+        return;
+    const auto shifted = shiftedEvent(*event, d->clickShift);
+    QTreeView::mouseMoveEvent(shifted.get());
+    event->setAccepted(shifted->isAccepted());
+}
+
+void ZARNOutlineView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!isEnabled())
+        return;
+    const auto shifted = shiftedEvent(*event, std::exchange(d->clickShift, 0.0));
+    QTreeView::mouseReleaseEvent(shifted.get());
+    event->setAccepted(shifted->isAccepted());
+}
+
+void ZARNOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (!isEnabled())
+        return;
+    if (brixel::isControlClick(event)) {
+        d->behaviour->showMenu(event->globalPosition().toPoint());
+        return;
+    }
+    if (event->button() == Qt::RightButton) {
+        d->contextClick(event->position().toPoint());
+        return;
+    }
+    d->clickShift = d->clickShiftAt(event->position().toPoint());
+    const auto shifted = shiftedEvent(*event, d->clickShift);
+    d->forwardingMouse = true;
+    QTreeView::mouseDoubleClickEvent(shifted.get());
+    event->setAccepted(shifted->isAccepted());
+    d->forwardingMouse = false;
+}
+
+void ZARNOutlineView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (isEnabled() && d->behaviour->showMenu(event->globalPos()))
+        event->accept();
+    else
+        QTreeView::contextMenuEvent(event);
+}
+
+void ZARNOutlineView::changeEvent(QEvent *event)
+{
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        d->applyEnabledState(isEnabled());
+}
+
+void ZARNOutlineView::paintEvent(QPaintEvent *event)
+{
+    if (d->delegate)
+        d->delegate->tableViewWillDrawRect(this, event->rect());
+    QTreeView::paintEvent(event);
+}
+
+void ZARNOutlineView::resizeEvent(QResizeEvent *event)
+{
+    QTreeView::resizeEvent(event);
+    d->behaviour->noteResize();
+}
+
+void ZARNOutlineView::startDrag(Qt::DropActions supportedActions)
+{
+    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction());
+}
+
+// Items that open while a drag is over the view were opened by the drag (Qt's auto-expand,
+// see autoExpandDelay): they are remembered until the drop or the drag's leaving.
+void ZARNOutlineView::dragEnterEvent(QDragEnterEvent *event)
+{
+    d->trackingDrop = true;
+    d->autoExpanded.clear();
+    QTreeView::dragEnterEvent(event);
+}
+
+void ZARNOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QTreeView::dragLeaveEvent(event);
+    d->finishDrop(false);
+}
+
+void ZARNOutlineView::dropEvent(QDropEvent *event)
+{
+    QTreeView::dropEvent(event);
+    d->finishDrop(event->isAccepted());
+}
+
+void ZARNOutlineView::drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const
+{
+    if (d->drawsBranchIndicators)
+        QTreeView::drawBranches(painter, rect, index);
+}

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <Brixel/brixel_export.h>
+
+#include <QTreeView>
+
+#include <memory>
+
+class QMenu;
+class ZARNOutlineViewDelegate;
+
+/**
+ * A tree view with the table view's keys, context click, drag-image flag and live resize,
+ * plus an enabled state that greys the whole view out and restores it, a choice of
+ * collapsing the items a drag opened, and control over the disclosure marker.
+ *
+ * Keys: Return and Enter go to the delegate's outlineViewReturnKey(), Backspace and Delete
+ * to outlineViewDeleteBackward(), and neither reaches Qt. Up and Down move the selection as
+ * in any tree view and send outlineViewSelectionIsChanging() when the selected row changed.
+ * Left and Right expand and collapse as in any tree view.
+ *
+ * Mouse: a right press selects the row alone unless it is already selected, and the menu
+ * opens on the context-menu event. A left click with the Meta modifier (the Control key of
+ * Mac keyboards) selects like a click and then opens the menu; a double click with it opens
+ * the menu only. Where an item hides its disclosure marker, the whole click is handed to
+ * Qt 20 pixels further right, so that it acts on the row instead of the marker's place.
+ *
+ * Disabled (QWidget::setEnabled(false) on the view or an ancestor), the view saves the text
+ * and background colours of its text cells and the enabled state of its scroll bars, greys
+ * the cells (text white 0.5, background white 0.94) and disables the scroll bars; enabling
+ * restores them. A disabled view ignores clicks and keys, and Qt gives a disabled widget no
+ * keyboard focus (setFocus() and the Tab chain pass it by), which is what
+ * acceptsFirstResponder() reports: isEnabled().
+ *
+ * \code
+ * auto *outline = new ZARNOutlineView(parent);
+ * outline->setModel(folders);
+ * outline->setDelegate(&controller);
+ * outline->setMenu(folderMenu);
+ * outline->setAutoExpandDelay(700);          // open folders under a drag...
+ * outline->setShouldCollapseAutoExpandedItemsForDeposits(true);   // ...and close them after
+ * \endcode
+ */
+class BRIXEL_EXPORT ZARNOutlineView : public QTreeView
+{
+    Q_OBJECT
+public:
+    explicit ZARNOutlineView(QWidget *parent = nullptr);
+    ~ZARNOutlineView() override;
+
+    /// The delegate, not owned; null (the default) means no delegate messages are sent.
+    ZARNOutlineViewDelegate *delegate() const;
+    void setDelegate(ZARNOutlineViewDelegate *delegate);
+
+    /// The context menu, not owned; null (the default) for none. Deleting it unsets it.
+    QMenu *menu() const;
+    void setMenu(QMenu *menu);
+
+    /// How selected rows are drawn: ZARNTableView::HighlightStyle (any other value draws as a
+    /// rectangle). Plain assignment, no redraw; 0 by default.
+    quint32 highlightStyle() const;
+    void setHighlightStyle(quint32 style);
+
+    /// Whether a selected row's highlight starts at its item's indentation; true by default.
+    bool highlightFollowsIndentation() const;
+    void setHighlightFollowsIndentation(bool follows);
+
+    /// Whether items show their disclosure marker when the delegate does not say; true by
+    /// default.
+    bool showsIndentationMarker() const;
+    void setShowsIndentationMarker(bool shows);
+
+    /// Whether the items a drag opened close again after a successful drop; false by default.
+    bool shouldCollapseAutoExpandedItemsForDeposits() const;
+    void setShouldCollapseAutoExpandedItemsForDeposits(bool collapse);
+
+    /// Whether the items a drag opened close again after a failed drop or a drag that left
+    /// the view; true by default.
+    bool shouldCollapseAutoExpandedItemsForFailedDeposits() const;
+    void setShouldCollapseAutoExpandedItemsForFailedDeposits(bool collapse);
+
+    /// The question asked after a drop: the successful-drop flag when \a deposited, else the
+    /// failed-drop flag.
+    bool shouldCollapseAutoExpandedItemsForDeposited(bool deposited) const;
+
+    /// True while the drag image is being made, so that rows draw without highlighted cells.
+    bool inDragPrep() const;
+
+    /// Whether the view is being resized right now (rows are re-laid on each step).
+    bool inLiveResize() const;
+
+    /// Whether the view takes keyboard focus: isEnabled().
+    bool acceptsFirstResponder() const;
+
+    /// Whether Qt's own branch indicators are drawn; zapIndentationMarker() turns them off.
+    bool drawsBranchIndicators() const;
+    void setDrawsBranchIndicators(bool draws);
+
+    /// The number of rows shown: the items under the root that are not hidden and whose
+    /// ancestors below the root are all expanded.
+    int numberOfRows() const;
+
+    /// The row height the cached selection gradient was made for; -1 when it must be remade.
+    int lastHighlightGradientRowHeight() const;
+
+    /**
+     * Saves the look that disabling greys out: the text and background colours of the text
+     * cells, one pair per shown column whose cell is a text cell, in column order, and the
+     * enabled state of each scroll bar that can appear (false for one whose policy is
+     * Qt::ScrollBarAlwaysOff).
+     */
+    void saveState();
+
+    /// Writes "numberOfRows:  <rows> (<address in hex>)" to the info log, then lays out the
+    /// scroll bars and header again. A diagnostic aid.
+    void tile2();
+
+public Q_SLOTS:
+    /// Sends outlineViewDeleteBackward() to the delegate, as Backspace does.
+    void deleteBackward();
+
+    /// The application became active: the selection gradient is remade with the current
+    /// system colours on its next use.
+    void userDefaultsDidChange();
+
+protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void startDrag(Qt::DropActions supportedActions) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
+
+private:
+    friend class ZARNOutlineViewPrivate;
+    std::unique_ptr<class ZARNOutlineViewPrivate> const d;
+};
