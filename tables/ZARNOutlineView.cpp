@@ -436,9 +436,10 @@ void ZARNOutlineView::startDrag(Qt::DropActions supportedActions)
 // see autoExpandDelay): they are remembered until the drop or the drag's leaving.
 void ZARNOutlineView::dragEnterEvent(QDragEnterEvent *event)
 {
-    d->trackingDrop = true;
     d->autoExpanded.clear();
     QTreeView::dragEnterEvent(event);
+    // Qt sends a refused drag neither moves nor its drop, so there is nothing to follow.
+    d->trackingDrop = event->isAccepted();
 }
 
 void ZARNOutlineView::dragLeaveEvent(QDragLeaveEvent *event)

@@ -116,6 +116,8 @@ public:
     /// scroll bars and header again. A diagnostic aid.
     void tile2();
 
+    using QTreeView::edit;
+
 public Q_SLOTS:
     /// Sends outlineViewDeleteBackward() to the delegate, as Backspace does.
     void deleteBackward();

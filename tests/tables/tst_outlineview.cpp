@@ -1,0 +1,627 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/NSOutlineView_Category.h>
+#include <Brixel/ZARNOutlineView.h>
+#include <Brixel/ZARNOutlineViewDelegate.h>
+#include <Brixel/ZARNTableViewDataSource.h>
+
+#include "BrixelTest.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Records what the view tells its delegate and answers the marker question when told to.
+class RecordingDelegate : public ZARNOutlineViewDelegate
+{
+public:
+    QStringList calls;
+    QList<ZARNNotification> notifications;
+    QList<QRect> drawnRects;
+    std::optional<bool> showsMarker;
+
+    void outlineViewReturnKey(ZARNOutlineView *) override { calls << u"return"_s; }
+    void outlineViewDeleteBackward(ZARNOutlineView *) override { calls << u"delete"_s; }
+    void outlineViewSelectionIsChanging(const ZARNNotification &notification) override
+    {
+        calls << u"changing"_s;
+        notifications << notification;
+    }
+    std::optional<bool> outlineViewShouldShowIndentationMarkerForItem(ZARNOutlineView *, const QModelIndex &) override
+    {
+        return showsMarker;
+    }
+    void tableViewWillDrawRect(ZARNOutlineView *, const QRect &rect) override { drawnRects << rect; }
+};
+
+// A model that would refuse every right-click selection if it were asked.
+class RefusingModel : public QStandardItemModel, public ZARNTableViewDataSource
+{
+public:
+    bool respondsToTableviewShouldSelectRow() const override { return true; }
+    std::optional<bool> tableViewShouldSelectRow(ZARNTableView *, int) override { return false; }
+};
+
+// Rows "a" (children "a1" with child "a1x", and "a2"), "b", "c"; two columns.
+void fill(QStandardItemModel &model)
+{
+    model.setColumnCount(2);
+    auto row = [](const QString &name) { return QList<QStandardItem *>{new QStandardItem(name), new QStandardItem(name + u"+"_s)}; };
+    auto a = row(u"a"_s);
+    auto a1 = row(u"a1"_s);
+    a1.first()->appendRow(row(u"a1x"_s));
+    a.first()->appendRow(a1);
+    a.first()->appendRow(row(u"a2"_s));
+    model.appendRow(a);
+    model.appendRow(row(u"b"_s));
+    model.appendRow(row(u"c"_s));
+}
+
+// A shown outline over the model above, with fixed section widths for click positions.
+struct Fixture
+{
+    explicit Fixture(QStandardItemModel *customModel = nullptr)
+        : model(customModel ? customModel : &ownModel)
+    {
+        fill(*model);
+        view.setModel(model);
+        view.setDelegate(&delegate);
+        view.setIndentation(16);
+        view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+        view.header()->setStretchLastSection(false);
+        view.header()->resizeSection(0, 30);
+        view.header()->resizeSection(1, 80);
+        view.resize(200, 150);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+    }
+
+    QModelIndex item(const QString &name) const
+    {
+        return model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchRecursive | Qt::MatchExactly).value(0);
+    }
+
+    QPoint pointIn(const QString &name, int x) const { return {x, view.visualRect(item(name)).center().y()}; }
+
+    QStringList selectedNames() const
+    {
+        QStringList names;
+        for (const QModelIndex &index : view.selectionModel()->selectedRows())
+            names << index.data().toString();
+        names.sort();
+        return names;
+    }
+
+    void select(const QStringList &names)
+    {
+        view.selectionModel()->clearSelection();
+        for (const QString &name : names)
+            view.selectionModel()->select(item(name), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+
+    QStandardItemModel ownModel;
+    QStandardItemModel *model;
+    RecordingDelegate delegate;
+    ZARNOutlineView view;
+};
+
+class DragOutlineView : public ZARNOutlineView
+{
+public:
+    using ZARNOutlineView::startDrag;
+};
+
+// Notes whether the view was making a drag image each time a cell was painted.
+class FlagProbe : public QStyledItemDelegate
+{
+public:
+    explicit FlagProbe(ZARNOutlineView *view)
+        : QStyledItemDelegate(view)
+        , m_view(view)
+    {
+    }
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        flags << m_view->inDragPrep();
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+    mutable QList<bool> flags;
+
+private:
+    ZARNOutlineView *m_view;
+};
+
+} // namespace
+
+using ViewCheck = std::function<bool(const ZARNOutlineView &)>;
+using Action = std::function<void(Fixture &)>;
+Q_DECLARE_METATYPE(ViewCheck)
+Q_DECLARE_METATYPE(Action)
+
+class TestOutlineView : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void defaults_data();
+    void defaults();
+    void collapseAnswer_data();
+    void collapseAnswer();
+    void keys_data();
+    void keys();
+    void clicks_data();
+    void clicks();
+    void hiddenMarkerMovesTheClick_data();
+    void hiddenMarkerMovesTheClick();
+    void disabledViewIgnoresInput();
+    void scrollBarsFollowTheEnabledState_data();
+    void scrollBarsFollowTheEnabledState();
+    void drops_data();
+    void drops();
+    void qtAutoExpansionIsFollowed();
+    void editorDrawsNoBackground();
+    void tile2LogsTheShownRows_data();
+    void tile2LogsTheShownRows();
+    void delegateHearsOfEachDrawing();
+    void dragImageIsMadeInDragPrep();
+    void resizeIsLiveUntilQuiet();
+    void zapHidesTheMarkers();
+};
+
+void TestOutlineView::initTestCase()
+{
+    brixeltest::useTestFont();
+}
+
+void TestOutlineView::defaults_data()
+{
+    QTest::addColumn<ViewCheck>("check");
+
+    QTest::newRow("no delegate, no menu") << ViewCheck([](auto &v) { return !v.delegate() && !v.menu(); });
+    QTest::newRow("rectangle highlight following indentation")
+        << ViewCheck([](auto &v) { return v.highlightStyle() == 0 && v.highlightFollowsIndentation(); });
+    QTest::newRow("marker shown, drawn by Qt too")
+        << ViewCheck([](auto &v) { return v.showsIndentationMarker() && v.drawsBranchIndicators(); });
+    QTest::newRow("collapse after failed drops only")
+        << ViewCheck([](auto &v) {
+               return !v.shouldCollapseAutoExpandedItemsForDeposits() && v.shouldCollapseAutoExpandedItemsForFailedDeposits();
+           });
+    QTest::newRow("not in a drag or a resize") << ViewCheck([](auto &v) { return !v.inDragPrep() && !v.inLiveResize(); });
+    QTest::newRow("gradient not made") << ViewCheck([](auto &v) { return v.lastHighlightGradientRowHeight() == -1; });
+    QTest::newRow("takes focus while enabled") << ViewCheck([](auto &v) { return v.acceptsFirstResponder(); });
+    QTest::newRow("no rows without a model") << ViewCheck([](auto &v) { return v.numberOfRows() == 0; });
+}
+
+void TestOutlineView::defaults()
+{
+    QFETCH(ViewCheck, check);
+    const ZARNOutlineView view;
+    QVERIFY(check(view));
+}
+
+void TestOutlineView::collapseAnswer_data()
+{
+    QTest::addColumn<bool>("forDeposits");
+    QTest::addColumn<bool>("forFailedDeposits");
+    QTest::addColumn<bool>("deposited");
+    QTest::addColumn<bool>("expected");
+
+    QTest::newRow("default, successful drop") << false << true << true << false;
+    QTest::newRow("default, failed drop") << false << true << false << true;
+    QTest::newRow("swapped, successful drop") << true << false << true << true;
+    QTest::newRow("swapped, failed drop") << true << false << false << false;
+}
+
+void TestOutlineView::collapseAnswer()
+{
+    QFETCH(bool, forDeposits);
+    QFETCH(bool, forFailedDeposits);
+    QFETCH(bool, deposited);
+    QFETCH(bool, expected);
+    ZARNOutlineView view;
+    view.setShouldCollapseAutoExpandedItemsForDeposits(forDeposits);
+    view.setShouldCollapseAutoExpandedItemsForFailedDeposits(forFailedDeposits);
+    QCOMPARE(view.shouldCollapseAutoExpandedItemsForDeposited(deposited), expected);
+}
+
+void TestOutlineView::keys_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QStringList>("calls");
+    QTest::addColumn<QStringList>("selected");
+    QTest::addColumn<bool>("aExpanded");
+
+    const QStringList none;
+    QTest::newRow("Return") << u"b"_s << int(Qt::Key_Return) << QStringList{u"return"_s} << QStringList{u"b"_s} << false;
+    QTest::newRow("Enter") << u"b"_s << int(Qt::Key_Enter) << QStringList{u"return"_s} << QStringList{u"b"_s} << false;
+    QTest::newRow("Backspace") << u"b"_s << int(Qt::Key_Backspace) << QStringList{u"delete"_s} << QStringList{u"b"_s} << false;
+    QTest::newRow("Delete") << u"b"_s << int(Qt::Key_Delete) << QStringList{u"delete"_s} << QStringList{u"b"_s} << false;
+    QTest::newRow("Down moves the row") << u"b"_s << int(Qt::Key_Down) << QStringList{u"changing"_s} << QStringList{u"c"_s} << false;
+    QTest::newRow("Up moves the row") << u"b"_s << int(Qt::Key_Up) << QStringList{u"changing"_s} << QStringList{u"a"_s} << false;
+    QTest::newRow("Up on the first row stays") << u"a"_s << int(Qt::Key_Up) << none << QStringList{u"a"_s} << false;
+    QTest::newRow("Down on the last row stays") << u"c"_s << int(Qt::Key_Down) << none << QStringList{u"c"_s} << false;
+    QTest::newRow("Right expands as Qt does") << u"a"_s << int(Qt::Key_Right) << none << QStringList{u"a"_s} << true;
+    QTest::newRow("letters go to Qt") << u"a"_s << int(Qt::Key_C) << none << QStringList{u"c"_s} << false;
+}
+
+void TestOutlineView::keys()
+{
+    QFETCH(QString, start);
+    QFETCH(int, key);
+    QFETCH(QStringList, calls);
+    QFETCH(QStringList, selected);
+    QFETCH(bool, aExpanded);
+    Fixture f;
+    f.view.setCurrentIndex(f.item(start));
+    f.view.setFocus();
+
+    QTest::keyClick(&f.view, Qt::Key(key));
+
+    QCOMPARE(f.delegate.calls, calls);
+    QCOMPARE(f.selectedNames(), selected);
+    QCOMPARE(f.view.isExpanded(f.item(u"a"_s)), aExpanded);
+    for (const ZARNNotification &notification : std::as_const(f.delegate.notifications)) {
+        QCOMPARE(notification.name, QString(NSTableViewSelectionIsChangingNotification));
+        QCOMPARE(notification.object, &f.view);
+        QVERIFY(notification.userInfo.isEmpty());
+    }
+}
+
+void TestOutlineView::clicks_data()
+{
+    QTest::addColumn<QStringList>("before");
+    QTest::addColumn<bool>("withMenu");
+    QTest::addColumn<Action>("click");
+    QTest::addColumn<QStringList>("after");
+    QTest::addColumn<bool>("menuShown");
+
+    const auto right = [](const QString &name) {
+        return Action([name](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(name, 60)); });
+    };
+    const auto control = [](const QString &name) {
+        return Action([name](Fixture &f) { QTest::mouseClick(f.view.viewport(), Qt::LeftButton, Qt::MetaModifier, f.pointIn(name, 60)); });
+    };
+    const auto menuEvent = [](const QString &name) {
+        return Action([name](Fixture &f) {
+            const QPoint at = f.pointIn(name, 60);
+            QContextMenuEvent event(QContextMenuEvent::Mouse, at, f.view.viewport()->mapToGlobal(at));
+            QApplication::sendEvent(f.view.viewport(), &event);
+        });
+    };
+    const QStringList ab{u"a"_s, u"b"_s};
+
+    // The model would refuse every right-click selection: the outline never asks it.
+    QTest::newRow("right press selects an unselected row alone") << ab << false << right(u"c"_s) << QStringList{u"c"_s} << false;
+    QTest::newRow("right press keeps a selection it falls in") << ab << false << right(u"b"_s) << ab << false;
+    QTest::newRow("right press below the rows changes nothing")
+        << ab << false << Action([](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, {60, 140}); })
+        << ab << false;
+    QTest::newRow("context menu event shows the menu") << ab << true << menuEvent(u"b"_s) << ab << true;
+    QTest::newRow("context menu event without a menu") << ab << false << menuEvent(u"b"_s) << ab << false;
+    QTest::newRow("control-click selects, then shows the menu") << ab << true << control(u"c"_s) << QStringList{u"c"_s} << true;
+    QTest::newRow("control-click without a menu just selects") << ab << false << control(u"c"_s) << QStringList{u"c"_s} << false;
+    QTest::newRow("control double click only shows the menu")
+        << ab << true
+        << Action([](Fixture &f) {
+               QMouseEvent event(QEvent::MouseButtonDblClick, f.pointIn(u"c"_s, 60), f.view.viewport()->mapToGlobal(f.pointIn(u"c"_s, 60)),
+                                 Qt::LeftButton, Qt::LeftButton, Qt::MetaModifier);
+               QApplication::sendEvent(f.view.viewport(), &event);
+           })
+        << ab << true;
+}
+
+void TestOutlineView::clicks()
+{
+    QFETCH(QStringList, before);
+    QFETCH(bool, withMenu);
+    QFETCH(Action, click);
+    QFETCH(QStringList, after);
+    QFETCH(bool, menuShown);
+    RefusingModel model;
+    Fixture f(&model);
+    QMenu menu;
+    menu.addAction(u"Open"_s);
+    QSignalSpy aboutToShow(&menu, &QMenu::aboutToShow);
+    if (withMenu)
+        f.view.setMenu(&menu);
+    f.select(before);
+
+    click(f);
+
+    QCOMPARE(f.selectedNames(), after);
+    QCOMPARE(aboutToShow.count(), menuShown ? 1 : 0);
+    QCOMPARE(menu.isVisible(), menuShown);
+    menu.close();
+}
+
+void TestOutlineView::hiddenMarkerMovesTheClick_data()
+{
+    QTest::addColumn<int>("x");
+    QTest::addColumn<bool>("viewShowsMarker");
+    QTest::addColumn<std::optional<bool>>("delegateShowsMarker");
+    QTest::addColumn<int>("clickedColumn");
+    QTest::addColumn<bool>("expanded");
+
+    // Column 0 is 30 wide and its first 16 pixels hold the marker of "a"; column 1 follows.
+    const std::optional<bool> noAnswer;
+    QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true;
+    QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false;
+    QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false;
+    QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false;
+    QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false;
+    QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true;
+}
+
+void TestOutlineView::hiddenMarkerMovesTheClick()
+{
+    QFETCH(int, x);
+    QFETCH(bool, viewShowsMarker);
+    QFETCH(std::optional<bool>, delegateShowsMarker);
+    QFETCH(int, clickedColumn);
+    QFETCH(bool, expanded);
+    Fixture f;
+    f.view.setShowsIndentationMarker(viewShowsMarker);
+    f.delegate.showsMarker = delegateShowsMarker;
+    QSignalSpy clicked(&f.view, &QAbstractItemView::clicked);
+
+    QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.pointIn(u"a"_s, x));
+
+    QCOMPARE(f.view.isExpanded(f.item(u"a"_s)), expanded);
+    QCOMPARE(clicked.count(), clickedColumn < 0 ? 0 : 1);
+    if (clickedColumn >= 0) {
+        QCOMPARE(clicked.first().first().toModelIndex().column(), clickedColumn);
+        QCOMPARE(f.selectedNames(), QStringList{u"a"_s});
+    }
+}
+
+void TestOutlineView::disabledViewIgnoresInput()
+{
+    Fixture f;
+    QMenu menu;
+    f.view.setMenu(&menu);
+    f.select({u"b"_s});
+    f.view.setEnabled(false);
+
+    QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.pointIn(u"c"_s, 60));
+    QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(u"c"_s, 60));
+    QTest::keyClick(&f.view, Qt::Key_Return);
+    f.view.setFocus();
+
+    QCOMPARE(f.selectedNames(), QStringList{u"b"_s});
+    QVERIFY(f.delegate.calls.isEmpty());
+    QVERIFY(!menu.isVisible());
+    QVERIFY(!f.view.hasFocus());
+    QVERIFY(!f.view.acceptsFirstResponder());
+}
+
+void TestOutlineView::scrollBarsFollowTheEnabledState_data()
+{
+    QTest::addColumn<Qt::ScrollBarPolicy>("policy");
+    QTest::addColumn<bool>("barEnabledBefore");
+    QTest::addColumn<QList<Action>>("steps");
+    QTest::addColumn<bool>("barEnabledAfter");
+
+    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
+    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
+    const Action disableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(false); };
+    const Action enableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(true); };
+    const Action enableBar = [](Fixture &f) { f.view.verticalScrollBar()->setEnabled(true); };
+
+    QTest::newRow("enabled bar comes back enabled") << Qt::ScrollBarAsNeeded << true << QList{disable, enable} << true;
+    QTest::newRow("disabled bar stays disabled") << Qt::ScrollBarAsNeeded << false << QList{disable, enable} << false;
+    QTest::newRow("always-off bar is left alone") << Qt::ScrollBarAlwaysOff << true << QList{disable, enable} << true;
+    QTest::newRow("disabling twice saves once") << Qt::ScrollBarAlwaysOn << false << QList{disable, enableBar, disable, enable} << false;
+    QTest::newRow("a disabled ancestor counts") << Qt::ScrollBarAsNeeded << true << QList{disableParent, enableParent} << true;
+    QTest::newRow("bar is off while disabled") << Qt::ScrollBarAsNeeded << true << QList{disable} << false;
+}
+
+void TestOutlineView::scrollBarsFollowTheEnabledState()
+{
+    QFETCH(Qt::ScrollBarPolicy, policy);
+    QFETCH(bool, barEnabledBefore);
+    QFETCH(QList<Action>, steps);
+    QFETCH(bool, barEnabledAfter);
+    QWidget parent;
+    Fixture f;
+    f.view.setParent(&parent);
+    parent.show();
+    f.view.setVerticalScrollBarPolicy(policy);
+    f.view.verticalScrollBar()->setEnabled(barEnabledBefore);
+
+    for (const Action &step : steps)
+        step(f);
+
+    QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
+}
+
+void TestOutlineView::drops_data()
+{
+    QTest::addColumn<bool>("collapseForDeposits");
+    QTest::addColumn<QString>("ending");
+    QTest::addColumn<bool>("openedStayOpen");
+
+    QTest::newRow("successful drop keeps them by default") << false << u"drop"_s << true;
+    QTest::newRow("successful drop, collapsing") << true << u"drop"_s << false;
+    QTest::newRow("refused drop collapses them") << false << u"refused"_s << false;
+    QTest::newRow("leaving the view collapses them") << false << u"leave"_s << false;
+}
+
+void TestOutlineView::drops()
+{
+    QFETCH(bool, collapseForDeposits);
+    QFETCH(QString, ending);
+    QFETCH(bool, openedStayOpen);
+    Fixture f;
+    f.view.setDragDropMode(QAbstractItemView::DragDrop);
+    f.view.setShouldCollapseAutoExpandedItemsForDeposits(collapseForDeposits);
+    f.view.expand(f.item(u"a"_s));  // opened by the user before the drag
+    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    QMimeData refused;
+    refused.setText(u"plain text"_s);
+    const QPoint over = f.pointIn(u"a1"_s, 60);
+    QDragEnterEvent enter(over, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(f.view.viewport(), &enter);
+    f.view.expand(f.item(u"a1"_s));  // as Qt's auto-expand does while hovering
+    f.view.expand(f.item(u"c"_s));
+
+    if (ending == u"leave"_s) {
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(f.view.viewport(), &leave);
+    } else {
+        QDropEvent drop(over, Qt::CopyAction, ending == u"refused"_s ? &refused : data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(f.view.viewport(), &drop);
+        QCOMPARE(drop.isAccepted(), ending == u"drop"_s);
+    }
+
+    QVERIFY(f.view.isExpanded(f.item(u"a"_s)));
+    QCOMPARE(f.view.isExpanded(f.item(u"a1"_s)), openedStayOpen);
+    QCOMPARE(f.view.isExpanded(f.item(u"c"_s)), openedStayOpen);
+}
+
+void TestOutlineView::qtAutoExpansionIsFollowed()
+{
+    Fixture f;
+    f.view.setDragDropMode(QAbstractItemView::DragDrop);
+    f.view.setAutoExpandDelay(0);
+    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    const QPoint over = f.pointIn(u"a"_s, 60);
+    QCursor::setPos(f.view.viewport()->mapToGlobal(over));
+    if (QCursor::pos() != f.view.viewport()->mapToGlobal(over))
+        QSKIP("the platform cannot place the cursor, which Qt's auto-expand reads");
+    QDragEnterEvent enter(over, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(f.view.viewport(), &enter);
+    QDragMoveEvent move(over, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(f.view.viewport(), &move);
+    QTRY_VERIFY(f.view.isExpanded(f.item(u"a"_s)));
+
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(f.view.viewport(), &leave);
+
+    QVERIFY(!f.view.isExpanded(f.item(u"a"_s)));
+}
+
+void TestOutlineView::editorDrawsNoBackground()
+{
+    Fixture f;
+    f.view.edit(f.item(u"b"_s));
+    auto *editor = qobject_cast<QLineEdit *>(f.view.indexWidget(f.item(u"b"_s)));
+    QVERIFY(editor);
+    QVERIFY(!editor->autoFillBackground());
+    QVERIFY(!editor->hasFrame());
+    QCOMPARE(editor->palette().color(QPalette::Base).alpha(), 0);
+}
+
+void TestOutlineView::tile2LogsTheShownRows_data()
+{
+    QTest::addColumn<QStringList>("expand");
+    QTest::addColumn<QStringList>("hide");
+    QTest::addColumn<int>("rows");
+
+    QTest::newRow("top level") << QStringList{} << QStringList{} << 3;
+    QTest::newRow("one level open") << QStringList{u"a"_s} << QStringList{} << 5;
+    QTest::newRow("all open") << QStringList{u"a"_s, u"a1"_s} << QStringList{} << 6;
+    QTest::newRow("open under a closed parent") << QStringList{u"a1"_s} << QStringList{} << 3;
+    QTest::newRow("hidden row and its children") << QStringList{u"a"_s, u"a1"_s} << QStringList{u"a1"_s} << 4;
+}
+
+void TestOutlineView::tile2LogsTheShownRows()
+{
+    QFETCH(QStringList, expand);
+    QFETCH(QStringList, hide);
+    QFETCH(int, rows);
+    Fixture f;
+    for (const QString &name : expand)
+        f.view.expand(f.item(name));
+    for (const QString &name : hide)
+        f.view.setRowHidden(f.item(name).row(), f.item(name).parent(), true);
+
+    const QString line = u"numberOfRows:  %1 (%2)"_s.arg(rows).arg(reinterpret_cast<quintptr>(&f.view), 0, 16);
+    QTest::ignoreMessage(QtInfoMsg, line.toUtf8().constData());
+    f.view.tile2();
+    QCOMPARE(f.view.numberOfRows(), rows);
+}
+
+void TestOutlineView::delegateHearsOfEachDrawing()
+{
+    Fixture f;
+    f.delegate.drawnRects.clear();
+    const QRect area(10, 5, 40, 20);
+    f.view.viewport()->repaint(area);
+    QCOMPARE(f.delegate.drawnRects, QList<QRect>{area});
+}
+
+void TestOutlineView::dragImageIsMadeInDragPrep()
+{
+    QStandardItemModel model;
+    fill(model);
+    DragOutlineView view;
+    view.setModel(&model);
+    auto *probe = new FlagProbe(&view);
+    view.setItemDelegate(probe);
+    view.resize(200, 150);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    probe->flags.clear();
+
+    view.startDrag(Qt::CopyAction);
+
+    QVERIFY(!probe->flags.isEmpty());
+    QVERIFY(!probe->flags.contains(false));
+    QVERIFY(!view.inDragPrep());
+}
+
+void TestOutlineView::resizeIsLiveUntilQuiet()
+{
+    Fixture f;
+    QTRY_VERIFY(!f.view.inLiveResize());
+    f.view.resize(260, 150);
+    QVERIFY(f.view.inLiveResize());
+    QTRY_VERIFY(!f.view.inLiveResize());
+}
+
+void TestOutlineView::zapHidesTheMarkers()
+{
+    QTreeView plain;
+    zapIndentationMarker(&plain);
+    QVERIFY(!plain.rootIsDecorated());
+    zapIndentationMarker(nullptr);
+
+    Fixture f;
+    f.view.expand(f.item(u"a"_s));
+    // The markers of "a" (top level) and "a1" (nested) sit left of their text.
+    const auto markerArea = [&f](const QString &name) {
+        const QRect text = f.view.visualRect(f.item(name));
+        return QRect(text.left() - f.view.indentation(), text.top(), f.view.indentation(), text.height());
+    };
+    const auto inkIn = [&f](const QRect &area) {
+        const QImage image = brixeltest::renderWidget(*f.view.viewport());
+        const QColor base = f.view.palette().color(QPalette::Base);
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = qMax(0, area.left()); x <= area.right(); ++x)
+                if (!brixeltest::colorsClose(brixeltest::colorAt(image, {x, y}), base, 8))
+                    return true;
+        return false;
+    };
+    QVERIFY(inkIn(markerArea(u"a"_s)));
+    QVERIFY(inkIn(markerArea(u"a1"_s)));
+
+    zapIndentationMarker(&f.view);
+
+    QVERIFY(!f.view.rootIsDecorated());
+    QVERIFY(!f.view.drawsBranchIndicators());
+    QVERIFY(!inkIn(markerArea(u"a1"_s)));
+}
+
+QTEST_MAIN(TestOutlineView)
+#include "tst_outlineview.moc"
