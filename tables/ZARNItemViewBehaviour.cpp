@@ -2,14 +2,16 @@
 #include "ZARNItemViewBehaviour.h"
 
 #include <QAbstractItemView>
-#include <QCursor>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QDrag>
-#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPixmap>
+
+#include <algorithm>
 
 namespace brixel {
 
@@ -36,18 +38,21 @@ QModelIndex selectedRowItem(const QAbstractItemView *view)
     if (!selection)
         return {};
     const QModelIndex current = selection->currentIndex();
-    if (current.isValid() && selection->isSelected(current))
+    if (current.isValid() && selection->isRowSelected(current.row(), current.parent()))
         return current.siblingAtColumn(0);
-    const QItemSelection ranges = selection->selection();
-    return ranges.isEmpty() ? QModelIndex() : QModelIndex(ranges.first().topLeft()).siblingAtColumn(0);
+    const QModelIndexList rows = selection->selectedRows();
+    if (rows.isEmpty())
+        return {};
+    return *std::min_element(rows.cbegin(), rows.cend(), [](const QModelIndex &a, const QModelIndex &b) {
+        return a.row() < b.row();
+    });
 }
 
-void selectRowAlone(QAbstractItemView *view, const QModelIndex &item)
+void selectRowAlone(QAbstractItemView *view, const QModelIndex &index)
 {
-    if (!view || !item.isValid() || !view->selectionModel())
+    if (!view || !index.isValid() || !view->selectionModel())
         return;
-    view->selectionModel()->setCurrentIndex(item.siblingAtColumn(0),
-                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    view->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     view->viewport()->update();
 }
 
@@ -62,16 +67,15 @@ bool controlClickSelectsFirst(const QMouseEvent *event)
     return isControlClick(event) && event->type() == QEvent::MouseButtonPress;
 }
 
-ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view, std::function<void()> relayout)
+ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view)
     : QObject(view)
     , m_view(view)
-    , m_relayout(std::move(relayout))
 {
     m_liveResizeTimer.setSingleShot(true);
-    m_liveResizeTimer.setInterval(LiveResizeQuietMilliseconds);
-    connect(&m_liveResizeTimer, &QTimer::timeout, this, &ItemViewBehaviour::endLiveResize);
-    if (auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
-        connect(application, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    m_liveResizeTimer.setInterval(LiveResizeSettleInterval);
+    connect(&m_liveResizeTimer, &QTimer::timeout, this, &ItemViewBehaviour::liveResizeEnded);
+    if (qGuiApp) {
+        connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive)
                 Q_EMIT applicationBecameActive();
         });
@@ -87,15 +91,38 @@ QMenu *ItemViewBehaviour::menu() const
 
 void ItemViewBehaviour::setMenu(QMenu *menu)
 {
+    disconnect(m_menuHidden);
     m_menu = menu;
+    if (menu) {
+        m_menuHidden = connect(menu, &QMenu::aboutToHide, this, [this] {
+            m_contextMenuItem = QPersistentModelIndex();
+            m_view->viewport()->update();
+        });
+    }
 }
 
-bool ItemViewBehaviour::showMenu(const QPoint &globalPos) const
+QModelIndex ItemViewBehaviour::contextMenuItem() const
+{
+    return m_contextMenuItem;
+}
+
+void ItemViewBehaviour::popUpMenu(const QModelIndex &index, const QPoint &globalPos)
 {
     if (!m_menu)
-        return false;
+        return;
+    m_contextMenuItem = index.siblingAtColumn(0);
+    m_view->viewport()->update();
     m_menu->popup(globalPos);
-    return true;
+}
+
+void ItemViewBehaviour::contextMenuEvent(QContextMenuEvent *event)
+{
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Mouse)
+        return;
+    const QModelIndex current = m_view->currentIndex();
+    const QPoint local = current.isValid() ? m_view->visualRect(current).bottomLeft() : QPoint();
+    popUpMenu(current, m_view->viewport()->mapToGlobal(local));
 }
 
 bool ItemViewBehaviour::moveChangesSelectedRow(const std::function<void()> &passToQt) const
@@ -110,19 +137,35 @@ bool ItemViewBehaviour::inDragPrep() const
     return m_inDragPrep;
 }
 
-void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction)
+void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction,
+                                  QPoint pressPosition, const DragRunner &run)
 {
     QAbstractItemModel *model = m_view->model();
     if (!model)
         return;
     QModelIndexList indexes;
+    QRect area;
     for (const QModelIndex &index : selected) {
-        if (model->flags(index).testFlag(Qt::ItemIsDragEnabled))
+        if (index.flags().testFlag(Qt::ItemIsDragEnabled)) {
             indexes.append(index);
+            area |= m_view->visualRect(index);
+        }
     }
-    QMimeData *data = indexes.isEmpty() ? nullptr : model->mimeData(indexes);
+    std::unique_ptr<QMimeData> data(indexes.isEmpty() ? nullptr : model->mimeData(indexes));
     if (!data)
         return;
+
+    // The image comes from the view's own drawing; while it is made, cells draw their
+    // contents as if unselected.
+    area &= m_view->viewport()->rect();
+    m_inDragPrep = true;
+    const QPixmap image = m_view->viewport()->grab(area);
+    m_inDragPrep = false;
+
+    QPointer<QDrag> drag = new QDrag(m_view);
+    drag->setPixmap(image);
+    drag->setMimeData(data.release());
+    drag->setHotSpot(pressPosition - area.topLeft());
 
     const bool internalMove = m_view->dragDropMode() == QAbstractItemView::InternalMove;
     if (internalMove)
@@ -133,78 +176,42 @@ void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActio
     else if (supported.testFlag(Qt::CopyAction) && !internalMove)
         action = Qt::CopyAction;
 
-    QPointer<QDrag> drag = new QDrag(m_view);
-    drag->setMimeData(data);
-    QPoint hotSpot;
-    drag->setPixmap(dragImage(indexes, &hotSpot));
-    drag->setHotSpot(hotSpot);
-    // The persistent indexes follow the rows if the drop rearranges the model.
-    QList<QPersistentModelIndex> dragged(indexes.cbegin(), indexes.cend());
-    const Qt::DropAction result = drag->exec(supported, action);
-    const bool droppedHere = drag && drag->target() == m_view->viewport();
-    if (result == Qt::MoveAction && (!internalMove || droppedHere)) {
-        QModelIndexList remaining;
-        for (const QPersistentModelIndex &index : dragged) {
-            if (index.isValid())
-                remaining.append(index);
-        }
-        removeMovedRows(remaining);
-    }
+    const Qt::DropAction result = run ? run(drag, supported, action) : drag->exec(supported, action);
+    if (result == Qt::MoveAction && (!internalMove || (drag && drag->target() == m_view->viewport())))
+        removeMovedItems();
 }
 
-QPixmap ItemViewBehaviour::dragImage(const QModelIndexList &indexes, QPoint *hotSpot)
-{
-    QRect area;
-    for (const QModelIndex &index : indexes)
-        area |= m_view->visualRect(index);
-    area &= m_view->viewport()->rect();
-    *hotSpot = m_view->viewport()->mapFromGlobal(QCursor::pos()) - area.topLeft();
-    if (area.isEmpty())
-        return {};
-    // The view draws the rows itself; the flag tells its painting that this is the drag image.
-    m_inDragPrep = true;
-    QPixmap image = m_view->viewport()->grab(area);
-    m_inDragPrep = false;
-    return image;
-}
-
-void ItemViewBehaviour::removeMovedRows(const QModelIndexList &indexes) const
+void ItemViewBehaviour::removeMovedItems() const
 {
     QAbstractItemModel *model = m_view->model();
+    const QItemSelection selection = m_view->selectionModel()->selection();
     if (m_view->dragDropOverwriteMode()) {
-        for (const QModelIndex &index : indexes)
-            model->setData(index, QVariant());
+        const QModelIndexList indexes = selection.indexes();
+        for (const QModelIndex &index : indexes) {
+            QMap<int, QVariant> roles = model->itemData(index);
+            for (QVariant &value : roles)
+                value = QVariant();
+            model->setItemData(index, roles);
+        }
         return;
     }
-    QList<QPersistentModelIndex> rows;
-    for (const QModelIndex &index : indexes) {
-        const QPersistentModelIndex row = index.siblingAtColumn(0);
-        if (!rows.contains(row))
-            rows.append(row);
-    }
-    for (const QPersistentModelIndex &row : std::as_const(rows)) {
-        if (row.isValid())
-            model->removeRow(row.row(), row.parent());
+    // Bottom ranges first, so that removing rows does not shift the ones still to go.
+    QList<QItemSelectionRange> ranges(selection.cbegin(), selection.cend());
+    std::sort(ranges.begin(), ranges.end(), [](const auto &a, const auto &b) { return a.top() > b.top(); });
+    for (const QItemSelectionRange &range : std::as_const(ranges)) {
+        if (range.left() == 0 && range.right() == model->columnCount(range.parent()) - 1)
+            model->removeRows(range.top(), range.height(), range.parent());
     }
 }
 
 bool ItemViewBehaviour::inLiveResize() const
 {
-    return QCoreApplication::instance() && m_liveResizeTimer.isActive();
+    return qobject_cast<QApplication *>(QCoreApplication::instance()) && m_liveResizeTimer.isActive();
 }
 
 void ItemViewBehaviour::noteResize()
 {
-    if (m_relayout)
-        m_relayout();
     m_liveResizeTimer.start();
-}
-
-void ItemViewBehaviour::endLiveResize()
-{
-    if (m_relayout)
-        m_relayout();
-    Q_EMIT liveResizeEnded();
 }
 
 } // namespace brixel

@@ -5,12 +5,15 @@
 
 #include <QModelIndex>
 #include <QObject>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTimer>
 
 #include <functional>
 
 class QAbstractItemView;
+class QContextMenuEvent;
+class QDrag;
 class QMenu;
 class QMouseEvent;
 
@@ -28,18 +31,18 @@ enum class KeyRole {
 BRIXEL_EXPORT KeyRole keyRole(int key);
 
 /**
- * The item of the row that counts as "the selected row": the current index when its row is
- * selected, otherwise the first selected row in selection order. The answer is the row's
- * column-0 index; it is invalid when nothing is selected, and for a null view or a view
+ * The item of the row that counts as "the selected row": the current index's row when that
+ * row is selected, otherwise the selected row with the lowest row number. The answer is the
+ * row's column-0 index; it is invalid when no row is selected, and for a null view or a view
  * without a selection model.
  */
 BRIXEL_EXPORT QModelIndex selectedRowItem(const QAbstractItemView *view);
 
 /**
- * Selects the row of \a item alone (as the current row, whole row) and asks the viewport to
- * redraw. An invalid item or a null view does nothing.
+ * Makes \a index's row the only selected row, with \a index as the current index, and asks
+ * the viewport to redraw. An invalid index or a null view does nothing.
  */
-BRIXEL_EXPORT void selectRowAlone(QAbstractItemView *view, const QModelIndex &item);
+BRIXEL_EXPORT void selectRowAlone(QAbstractItemView *view, const QModelIndex &index);
 
 /**
  * Whether \a event is a Control-click: the left button with the Meta modifier (Qt's name for
@@ -55,15 +58,17 @@ BRIXEL_EXPORT bool controlClickSelectsFirst(const QMouseEvent *event);
 
 /**
  * The behaviour the library's table and outline views share, kept apart from the widgets:
- * the context menu, the drag-image flag with the drag itself, live resizing and the
- * selection-change check of the arrow keys. Each view owns one, made with itself.
+ * the context menu and the row it was opened for, the drag with its drag-image flag, live
+ * resizing, the selection-change check of the arrow keys and the application's activation.
+ * Each view owns one, made with itself.
  *
  * \code
- * d->behaviour = new brixel::ItemViewBehaviour(this, [this] { updateGeometries(); });
+ * d->behaviour = new brixel::ItemViewBehaviour(this);
+ * connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, [this] { doItemsLayout(); });
  * ...
  * void MyView::startDrag(Qt::DropActions actions)
  * {
- *     d->behaviour->startDrag(selectedIndexes(), actions, defaultDropAction());
+ *     d->behaviour->startDrag(selectedIndexes(), actions, defaultDropAction(), d->pressPosition);
  * }
  * \endcode
  */
@@ -72,25 +77,36 @@ class BRIXEL_EXPORT ItemViewBehaviour : public QObject
     Q_OBJECT
 public:
     /// A resize counts as live until this many milliseconds pass without another one.
-    static constexpr int LiveResizeQuietMilliseconds = 200;
+    static constexpr int LiveResizeSettleInterval = 250;
 
-    /**
-     * Serves \a view (its parent, so it lives as long as the view). \a relayout re-lays the
-     * view's rows; it runs on every live-resize step and once when the resize ends. An empty
-     * function does nothing.
-     */
-    ItemViewBehaviour(QAbstractItemView *view, std::function<void()> relayout);
+    /// Runs a drag (QDrag::exec by default) and answers the action the drop took.
+    using DragRunner = std::function<Qt::DropAction(QDrag *drag, Qt::DropActions supported, Qt::DropAction defaultAction)>;
+
+    /// Serves \a view, which becomes its parent.
+    explicit ItemViewBehaviour(QAbstractItemView *view);
     ~ItemViewBehaviour() override;
 
     /// The view's menu, not owned; null when none was set or it was deleted.
     QMenu *menu() const;
     void setMenu(QMenu *menu);
 
+    /// The row (its column-0 item) the open menu was popped up for; invalid while no menu is
+    /// open or when it was opened below the last row.
+    QModelIndex contextMenuItem() const;
+
     /**
-     * Pops the menu up at \a globalPos (Qt emits its aboutToShow(), where the application
-     * updates it). False, and nothing shown, without a menu.
+     * Pops the menu up at \a globalPos for the row of \a index (invalid: no row) and redraws
+     * the viewport, so that the row can show it is the menu's. Qt emits the menu's
+     * aboutToShow(), where the application updates it. Without a menu nothing happens.
      */
-    bool showMenu(const QPoint &globalPos) const;
+    void popUpMenu(const QModelIndex &index, const QPoint &globalPos);
+
+    /**
+     * The view's contextMenuEvent(): the event is accepted; a mouse-driven one does nothing
+     * more, because the press already popped the menu up, and one from the keyboard pops it
+     * up below the current index (at the viewport's corner without one).
+     */
+    void contextMenuEvent(QContextMenuEvent *event);
 
     /**
      * Runs \a passToQt (the view's own handling of an Up or Down key) and says whether it
@@ -103,40 +119,39 @@ public:
 
     /**
      * Starts a drag of \a selected (the view's selected indexes): the model's drag-enabled
-     * items, the model's mime data, and as the image the viewport's drawing of the dragged
-     * rows, made with inDragPrep() true so that the view draws those rows without highlighted
-     * cell contents. The default action is \a defaultAction when \a supported allows it, else
-     * Copy (not for InternalMove views). After a Move the dragged rows are removed, or cleared
-     * in overwrite mode, as Qt's own views do. Nothing happens without a model, draggable
-     * items or mime data.
+     * items, the model's mime data, and as the image the viewport's drawing of those cells,
+     * made with inDragPrep() true so that the view draws them without highlighted contents;
+     * the hot spot is \a pressPosition (viewport coordinates) in that image. The default
+     * action is \a defaultAction when \a supported allows it, else Copy (never Copy for an
+     * InternalMove view). \a run runs the drag (empty: QDrag::exec). After a Move, unless the
+     * view is InternalMove and the drop went elsewhere, the wholly selected rows are removed
+     * from the model, or every selected cell cleared in overwrite mode, as Qt's views do.
+     * Nothing happens without a model, draggable items or mime data.
      */
-    void startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction);
+    void startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction,
+                   QPoint pressPosition, const DragRunner &run = {});
 
-    /**
-     * Whether the view is being resized right now. False without an application object.
-     * While true, each resize re-lays the rows at once.
-     */
+    /// Whether the view is being resized: from a resize until LiveResizeSettleInterval ms
+    /// after the last one. False without a QApplication.
     bool inLiveResize() const;
 
-    /// To be called from the view's resizeEvent(): re-lays the rows and (re)starts the live
-    /// resize, which ends LiveResizeQuietMilliseconds after the last call.
+    /// To be called from the view's resizeEvent(): (re)starts the live resize.
     void noteResize();
 
 Q_SIGNALS:
-    /// The live resize ended; the rows were re-laid once more just before.
+    /// The live resize ended: the view lays its rows out again.
     void liveResizeEnded();
 
-    /// The application became active: cached artwork drawn from the system colours is stale.
+    /// The application became active: artwork drawn from the system colours is stale.
     void applicationBecameActive();
 
 private:
-    void endLiveResize();
-    QPixmap dragImage(const QModelIndexList &indexes, QPoint *hotSpot);
-    void removeMovedRows(const QModelIndexList &indexes) const;
+    void removeMovedItems() const;
 
     QAbstractItemView *const m_view;
-    const std::function<void()> m_relayout;
     QPointer<QMenu> m_menu;
+    QMetaObject::Connection m_menuHidden;
+    QPersistentModelIndex m_contextMenuItem;
     QTimer m_liveResizeTimer;
     bool m_inDragPrep = false;
 };

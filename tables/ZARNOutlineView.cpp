@@ -66,7 +66,7 @@ public:
     QModelIndex rowItemAt(QPoint point) const;
     bool showsMarkerFor(const QModelIndex &item) const;
     qreal clickShiftAt(QPoint point) const;
-    void contextClick(QPoint point);
+    void contextClick(const QMouseEvent &event);
     void finishDrop(bool deposited);
     void applyEnabledState(bool enabled);
 
@@ -81,6 +81,8 @@ public:
     bool collapseForFailedDeposits = true;
     bool drawsBranchIndicators = true;
 
+    // Where the last press happened (viewport coordinates), the drag image's hot spot.
+    QPoint pressPosition;
     // The horizontal shift of the click in progress, from its press to its release.
     qreal clickShift = 0.0;
     // True while an event is with QTreeView, which may call the press handler itself.
@@ -95,7 +97,7 @@ public:
 
 ZARNOutlineViewPrivate::ZARNOutlineViewPrivate(ZARNOutlineView *view)
     : q(view)
-    , behaviour(new brixel::ItemViewBehaviour(view, [view] { view->updateGeometries(); }))
+    , behaviour(new brixel::ItemViewBehaviour(view))
 {
 }
 
@@ -123,14 +125,16 @@ qreal ZARNOutlineViewPrivate::clickShiftAt(QPoint point) const
     return item.isValid() && !showsMarkerFor(item) ? HiddenMarkerClickShift : 0.0;
 }
 
-void ZARNOutlineViewPrivate::contextClick(QPoint point)
+void ZARNOutlineViewPrivate::contextClick(const QMouseEvent &event)
 {
-    const QModelIndex item = rowItemAt(point);
-    if (!item.isValid())
-        return;
-    if (!q->selectionModel()->rowIntersectsSelection(item.row(), item.parent()))
-        brixel::selectRowAlone(q, item);
-    q->viewport()->update();
+    // Unlike the table, the outline asks its data source nothing here.
+    const QModelIndex item = rowItemAt(event.position().toPoint());
+    if (item.isValid()) {
+        if (!q->selectionModel()->rowIntersectsSelection(item.row(), item.parent()))
+            brixel::selectRowAlone(q, item);
+        q->viewport()->update();
+    }
+    behaviour->popUpMenu(item, event.globalPosition().toPoint());
 }
 
 void ZARNOutlineViewPrivate::finishDrop(bool deposited)
@@ -163,6 +167,7 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
             d->autoExpanded.append(item);
     });
     connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
+    connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, &ZARNOutlineView::doItemsLayout);
 }
 
 ZARNOutlineView::~ZARNOutlineView() = default;
@@ -250,6 +255,15 @@ bool ZARNOutlineView::inDragPrep() const
 bool ZARNOutlineView::inLiveResize() const
 {
     return d->behaviour->inLiveResize();
+}
+
+QModelIndex ZARNOutlineView::contextMenuItem() const
+{
+    return d->behaviour->contextMenuItem();
+}
+
+void ZARNOutlineView::keyboardSearch(const QString &)
+{
 }
 
 bool ZARNOutlineView::acceptsFirstResponder() const
@@ -347,8 +361,9 @@ void ZARNOutlineView::mousePressEvent(QMouseEvent *event)
     }
     if (!isEnabled())
         return;
+    d->pressPosition = event->position().toPoint();
     if (event->button() == Qt::RightButton) {
-        d->contextClick(event->position().toPoint());
+        d->contextClick(*event);
         return;
     }
     d->clickShift = d->clickShiftAt(event->position().toPoint());
@@ -358,7 +373,7 @@ void ZARNOutlineView::mousePressEvent(QMouseEvent *event)
     event->setAccepted(shifted->isAccepted());
     d->forwardingMouse = false;
     if (brixel::controlClickSelectsFirst(event))
-        d->behaviour->showMenu(event->globalPosition().toPoint());
+        d->behaviour->popUpMenu(d->rowItemAt(d->pressPosition), event->globalPosition().toPoint());
 }
 
 void ZARNOutlineView::mouseMoveEvent(QMouseEvent *event)
@@ -384,11 +399,11 @@ void ZARNOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
     if (!isEnabled())
         return;
     if (brixel::isControlClick(event)) {
-        d->behaviour->showMenu(event->globalPosition().toPoint());
+        d->behaviour->popUpMenu(d->rowItemAt(event->position().toPoint()), event->globalPosition().toPoint());
         return;
     }
     if (event->button() == Qt::RightButton) {
-        d->contextClick(event->position().toPoint());
+        d->contextClick(*event);
         return;
     }
     d->clickShift = d->clickShiftAt(event->position().toPoint());
@@ -401,10 +416,8 @@ void ZARNOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
 
 void ZARNOutlineView::contextMenuEvent(QContextMenuEvent *event)
 {
-    if (isEnabled() && d->behaviour->showMenu(event->globalPos()))
-        event->accept();
-    else
-        QTreeView::contextMenuEvent(event);
+    if (isEnabled())
+        d->behaviour->contextMenuEvent(event);
 }
 
 void ZARNOutlineView::changeEvent(QEvent *event)
@@ -424,12 +437,13 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
 void ZARNOutlineView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
+    scheduleDelayedItemsLayout();
     d->behaviour->noteResize();
 }
 
 void ZARNOutlineView::startDrag(Qt::DropActions supportedActions)
 {
-    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction());
+    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition);
 }
 
 // Items that open while a drag is over the view were opened by the drag (Qt's auto-expand,

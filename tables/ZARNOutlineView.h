@@ -18,13 +18,14 @@ class ZARNOutlineViewDelegate;
  * Keys: Return and Enter go to the delegate's outlineViewReturnKey(), Backspace and Delete
  * to outlineViewDeleteBackward(), and neither reaches Qt. Up and Down move the selection as
  * in any tree view and send outlineViewSelectionIsChanging() when the selected row changed.
- * Left and Right expand and collapse as in any tree view.
+ * Left and Right expand and collapse as in any tree view. Typing does not select by text.
  *
- * Mouse: a right press selects the row alone unless it is already selected, and the menu
- * opens on the context-menu event. A left click with the Meta modifier (the Control key of
- * Mac keyboards) selects like a click and then opens the menu; a double click with it opens
- * the menu only. Where an item hides its disclosure marker, the whole click is handed to
- * Qt 20 pixels further right, so that it acts on the row instead of the marker's place.
+ * Mouse: a right press selects the row alone unless it is already selected (the data source
+ * is not asked) and pops up menu(). A left click with the Meta modifier (the Control key of
+ * Mac keyboards) selects like a click and then pops up the menu; a double click with it pops
+ * up the menu only. The keyboard's menu key pops it up at the current row. Where an item
+ * hides its disclosure marker, the whole click is handed to Qt 20 pixels further right, so
+ * that it acts on the row instead of the marker's place.
  *
  * Disabled (QWidget::setEnabled(false) on the view or an ancestor), the view saves the text
  * and background colours of its text cells and the enabled state of its scroll bars, greys
@@ -84,10 +85,19 @@ public:
     /// failed-drop flag.
     bool shouldCollapseAutoExpandedItemsForDeposited(bool deposited) const;
 
+    /// The row (its column-0 item) the open menu was popped up for; invalid while no menu is
+    /// open or when it was opened below the last row.
+    QModelIndex contextMenuItem() const;
+
+    /// Does nothing: there is no selection by typing.
+    void keyboardSearch(const QString &search) override;
+
     /// True while the drag image is being made, so that rows draw without highlighted cells.
     bool inDragPrep() const;
 
-    /// Whether the view is being resized right now (rows are re-laid on each step).
+    /// Whether the view is being resized: from a resize until
+    /// brixel::ItemViewBehaviour::LiveResizeSettleInterval ms after the last one, when the rows
+    /// are laid out again. False without a QApplication.
     bool inLiveResize() const;
 
     /// Whether the view takes keyboard focus: isEnabled().

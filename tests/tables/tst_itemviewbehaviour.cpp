@@ -23,7 +23,7 @@ private Q_SLOTS:
     void selectedRowItem();
     void controlClicks_data();
     void controlClicks();
-    void liveResizeRelaysOnEachStepAndAtTheEnd();
+    void liveResizeEndsWhenQuiet();
     void menuIsNotOwned();
 };
 
@@ -57,21 +57,26 @@ void TestItemViewBehaviour::selectedRowItem_data()
 
     const auto select = [](int row) {
         return [row](QItemSelectionModel &s, const QAbstractItemModel &m) {
-            s.select(m.index(row, 1), QItemSelectionModel::Select);
+            s.select(m.index(row, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
         };
     };
     QTest::newRow("nothing selected") << SelectionSetUp([](auto &, auto &) {}) << -1;
     QTest::newRow("current row, any column") << SelectionSetUp([](QItemSelectionModel &s, const QAbstractItemModel &m) {
-        s.select(m.index(1, 0), QItemSelectionModel::Select);
-        s.setCurrentIndex(m.index(3, 1), QItemSelectionModel::Select);
+        s.select(m.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        s.setCurrentIndex(m.index(3, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }) << 3;
-    QTest::newRow("unselected current gives the first selected")
+    QTest::newRow("unselected current gives the lowest selected row")
         << SelectionSetUp([select](QItemSelectionModel &s, const QAbstractItemModel &m) {
                select(2)(s, m);
-               select(0)(s, m);
+               select(1)(s, m);
                s.setCurrentIndex(m.index(4, 0), QItemSelectionModel::NoUpdate);
            })
-        << 2;
+        << 1;
+    QTest::newRow("a single selected cell is no selected row")
+        << SelectionSetUp([](QItemSelectionModel &s, const QAbstractItemModel &m) {
+               s.setCurrentIndex(m.index(2, 1), QItemSelectionModel::Select);
+           })
+        << -1;
 }
 
 void TestItemViewBehaviour::selectedRowItem()
@@ -122,36 +127,36 @@ void TestItemViewBehaviour::controlClicks()
     QVERIFY(!brixel::isControlClick(nullptr));
 }
 
-void TestItemViewBehaviour::liveResizeRelaysOnEachStepAndAtTheEnd()
+void TestItemViewBehaviour::liveResizeEndsWhenQuiet()
 {
     QTreeView view;
-    int relayouts = 0;
-    auto *behaviour = new brixel::ItemViewBehaviour(&view, [&relayouts] { ++relayouts; });
+    auto *behaviour = new brixel::ItemViewBehaviour(&view);
     QSignalSpy ended(behaviour, &brixel::ItemViewBehaviour::liveResizeEnded);
 
     behaviour->noteResize();
+    QTest::qWait(brixel::ItemViewBehaviour::LiveResizeSettleInterval / 2);
     behaviour->noteResize();
+    QTest::qWait(brixel::ItemViewBehaviour::LiveResizeSettleInterval / 2);
     QVERIFY(behaviour->inLiveResize());
-    QCOMPARE(relayouts, 2);
+    QCOMPARE(ended.count(), 0);
 
     QVERIFY(ended.wait());
     QVERIFY(!behaviour->inLiveResize());
-    QCOMPARE(relayouts, 3);
     QCOMPARE(ended.count(), 1);
 }
 
 void TestItemViewBehaviour::menuIsNotOwned()
 {
     QTreeView view;
-    brixel::ItemViewBehaviour behaviour(&view, {});
-    QVERIFY(!behaviour.showMenu({0, 0}));
+    brixel::ItemViewBehaviour behaviour(&view);
     {
         QMenu menu;
         behaviour.setMenu(&menu);
         QCOMPARE(behaviour.menu(), &menu);
     }
     QVERIFY(!behaviour.menu());
-    QVERIFY(!behaviour.showMenu({0, 0}));
+    behaviour.popUpMenu({}, {0, 0});
+    QVERIFY(!behaviour.contextMenuItem().isValid());
 }
 
 QTEST_MAIN(TestItemViewBehaviour)

@@ -251,7 +251,7 @@ void TestOutlineView::keys_data()
     QTest::newRow("Up on the first row stays") << u"a"_s << int(Qt::Key_Up) << none << QStringList{u"a"_s} << false;
     QTest::newRow("Down on the last row stays") << u"c"_s << int(Qt::Key_Down) << none << QStringList{u"c"_s} << false;
     QTest::newRow("Right expands as Qt does") << u"a"_s << int(Qt::Key_Right) << none << QStringList{u"a"_s} << true;
-    QTest::newRow("letters go to Qt") << u"a"_s << int(Qt::Key_C) << none << QStringList{u"c"_s} << false;
+    QTest::newRow("letters do not select by text") << u"a"_s << int(Qt::Key_C) << none << QStringList{u"a"_s} << false;
 }
 
 void TestOutlineView::keys()
@@ -283,7 +283,7 @@ void TestOutlineView::clicks_data()
     QTest::addColumn<bool>("withMenu");
     QTest::addColumn<Action>("click");
     QTest::addColumn<QStringList>("after");
-    QTest::addColumn<bool>("menuShown");
+    QTest::addColumn<QString>("menuRow");  // empty: no menu shown; "-": shown for no row
 
     const auto right = [](const QString &name) {
         return Action([name](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(name, 60)); });
@@ -291,33 +291,38 @@ void TestOutlineView::clicks_data()
     const auto control = [](const QString &name) {
         return Action([name](Fixture &f) { QTest::mouseClick(f.view.viewport(), Qt::LeftButton, Qt::MetaModifier, f.pointIn(name, 60)); });
     };
-    const auto menuEvent = [](const QString &name) {
-        return Action([name](Fixture &f) {
-            const QPoint at = f.pointIn(name, 60);
-            QContextMenuEvent event(QContextMenuEvent::Mouse, at, f.view.viewport()->mapToGlobal(at));
+    const auto doubleClick = [](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+        return Action([=](Fixture &f) {
+            const QPoint at = f.pointIn(u"c"_s, 60);
+            QMouseEvent event(QEvent::MouseButtonDblClick, at, f.view.viewport()->mapToGlobal(at), button, button, modifiers);
+            QApplication::sendEvent(f.view.viewport(), &event);
+        });
+    };
+    const auto menuEvent = [](QContextMenuEvent::Reason reason) {
+        return Action([reason](Fixture &f) {
+            f.view.selectionModel()->setCurrentIndex(f.item(u"b"_s), QItemSelectionModel::NoUpdate);
+            const QPoint at = f.pointIn(u"c"_s, 60);
+            QContextMenuEvent event(reason, at, f.view.viewport()->mapToGlobal(at));
             QApplication::sendEvent(f.view.viewport(), &event);
         });
     };
     const QStringList ab{u"a"_s, u"b"_s};
+    const QStringList c{u"c"_s};
 
     // The model would refuse every right-click selection: the outline never asks it.
-    QTest::newRow("right press selects an unselected row alone") << ab << false << right(u"c"_s) << QStringList{u"c"_s} << false;
-    QTest::newRow("right press keeps a selection it falls in") << ab << false << right(u"b"_s) << ab << false;
-    QTest::newRow("right press below the rows changes nothing")
-        << ab << false << Action([](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, {60, 140}); })
-        << ab << false;
-    QTest::newRow("context menu event shows the menu") << ab << true << menuEvent(u"b"_s) << ab << true;
-    QTest::newRow("context menu event without a menu") << ab << false << menuEvent(u"b"_s) << ab << false;
-    QTest::newRow("control-click selects, then shows the menu") << ab << true << control(u"c"_s) << QStringList{u"c"_s} << true;
-    QTest::newRow("control-click without a menu just selects") << ab << false << control(u"c"_s) << QStringList{u"c"_s} << false;
-    QTest::newRow("control double click only shows the menu")
-        << ab << true
-        << Action([](Fixture &f) {
-               QMouseEvent event(QEvent::MouseButtonDblClick, f.pointIn(u"c"_s, 60), f.view.viewport()->mapToGlobal(f.pointIn(u"c"_s, 60)),
-                                 Qt::LeftButton, Qt::LeftButton, Qt::MetaModifier);
-               QApplication::sendEvent(f.view.viewport(), &event);
-           })
-        << ab << true;
+    QTest::newRow("right press selects an unselected row alone") << ab << true << right(u"c"_s) << c << u"c"_s;
+    QTest::newRow("right press keeps a selection it falls in") << ab << true << right(u"b"_s) << ab << u"b"_s;
+    QTest::newRow("right press without a menu") << ab << false << right(u"c"_s) << c << QString();
+    QTest::newRow("right press below the rows")
+        << ab << true << Action([](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, {60, 140}); })
+        << ab << u"-"_s;
+    QTest::newRow("right double click as a right press") << ab << true << doubleClick(Qt::RightButton, {}) << c << u"c"_s;
+    QTest::newRow("menu key opens at the current row") << ab << true << menuEvent(QContextMenuEvent::Keyboard) << ab << u"b"_s;
+    QTest::newRow("mouse menu event leaves it to the press") << ab << true << menuEvent(QContextMenuEvent::Mouse) << ab << QString();
+    QTest::newRow("control-click selects, then opens the menu") << ab << true << control(u"c"_s) << c << u"c"_s;
+    QTest::newRow("control-click without a menu just selects") << ab << false << control(u"c"_s) << c << QString();
+    QTest::newRow("control double click only opens the menu")
+        << ab << true << doubleClick(Qt::LeftButton, Qt::MetaModifier) << ab << u"c"_s;
 }
 
 void TestOutlineView::clicks()
@@ -326,7 +331,7 @@ void TestOutlineView::clicks()
     QFETCH(bool, withMenu);
     QFETCH(Action, click);
     QFETCH(QStringList, after);
-    QFETCH(bool, menuShown);
+    QFETCH(QString, menuRow);
     RefusingModel model;
     Fixture f(&model);
     QMenu menu;
@@ -339,9 +344,12 @@ void TestOutlineView::clicks()
     click(f);
 
     QCOMPARE(f.selectedNames(), after);
-    QCOMPARE(aboutToShow.count(), menuShown ? 1 : 0);
-    QCOMPARE(menu.isVisible(), menuShown);
+    QCOMPARE(aboutToShow.count(), menuRow.isEmpty() ? 0 : 1);
+    QCOMPARE(menu.isVisible(), !menuRow.isEmpty());
+    const QModelIndex expectedItem = menuRow.isEmpty() || menuRow == u"-"_s ? QModelIndex() : f.item(menuRow);
+    QCOMPARE(f.view.contextMenuItem(), expectedItem);
     menu.close();
+    QVERIFY(!f.view.contextMenuItem().isValid());
 }
 
 void TestOutlineView::hiddenMarkerMovesTheClick_data()
