@@ -127,6 +127,15 @@ private:
     QStringList m_titles;
 };
 
+// Columns A and B of a table view.
+struct TwoColumnTable
+{
+    TwoColumnTable() { view.setModel(model.get()); }
+    std::unique_ptr<QStandardItemModel> model = makeModel({u"A"_s, u"B"_s});
+    QTableView view;
+    brixel::TableColumnList list{&view, view.horizontalHeader()};
+};
+
 } // namespace
 
 class TestTableColumns : public QObject
@@ -429,11 +438,9 @@ void TestTableColumns::width()
     QFETCH(float, maxWidth);
     QFETCH(float, width);
     QFETCH(float, expected);
-    const auto model = makeModel({u"A"_s, u"B"_s});
-    QTableView view;
-    view.setModel(model.get());
-    view.horizontalHeader()->setMinimumSectionSize(0);
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    TwoColumnTable table;
+    table.view.horizontalHeader()->setMinimumSectionSize(0);
+    auto &[model, view, list] = table;
     ZARNTableColumn *column = list.columnAt(1);
     column->setMinWidth(minWidth);
     column->setMaxWidth(maxWidth);
@@ -445,10 +452,8 @@ void TestTableColumns::width()
 
 void TestTableColumns::hiddenColumnKeepsItsWidth()
 {
-    const auto model = makeModel({u"A"_s, u"B"_s});
-    QTableView view;
-    view.setModel(model.get());
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    TwoColumnTable table;
+    auto &[model, view, list] = table;
     ZARNTableColumn *column = list.columnAt(0);
     column->setWidth(70);
     list.hideColumn(0);
@@ -463,10 +468,8 @@ void TestTableColumns::hiddenColumnKeepsItsWidth()
 
 void TestTableColumns::dataCellFollowsTheView()
 {
-    const auto model = makeModel({u"A"_s, u"B"_s});
-    QTableView view;
-    view.setModel(model.get());
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    TwoColumnTable table;
+    auto &[model, view, list] = table;
     ZARNTableColumn *column = list.columnAt(1);
     QCOMPARE(column->dataCell(), view.itemDelegate());
     QStyledItemDelegate cell;
