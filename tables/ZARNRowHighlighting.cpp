@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "ZARNRowHighlighting.h"
+
+#include "../values/BrixelNumbers_p.h"
+
+#include <Brixel/NSBezierPath_Category.h>
+#include <Brixel/ZARNRect.h>
+
+#include <QPainter>
+
+namespace brixel {
+
+namespace {
+
+constexpr float dropCornerRadius = 3.0f;
+constexpr float markerLineWidth = 2.0f;
+
+// The rectangle moved in by \a dx on the left and right and by \a dy at the top and bottom,
+// and then made \a shorter less high, in float as the geometry rules are.
+ZARNRect insetRect(const ZARNRect &r, float dx, float dy, float shorter = 0.0f)
+{
+    return {r.x() + dx, r.y() + dy, r.width() - 2.0f * dx, r.height() - 2.0f * dy - shorter};
+}
+
+QRectF insetRect(const QRectF &rect, float dx, float dy, float shorter)
+{
+    return insetRect(ZARNRect::fromQRectF(rect), dx, dy, shorter).toQRectF();
+}
+
+QPen outlinePen(const QColor &colour, qreal width)
+{
+    return QPen(colour, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+}
+
+QColor withAlpha(QColor colour, float alpha)
+{
+    colour.setAlphaF(alpha);
+    return colour;
+}
+
+// Brushes, pens and the antialiasing hint last until the guard goes out of scope.
+class PainterStateGuard
+{
+public:
+    explicit PainterStateGuard(QPainter &painter) : m_painter(painter)
+    {
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::Antialiasing);
+    }
+    ~PainterStateGuard() { m_painter.restore(); }
+    PainterStateGuard(const PainterStateGuard &) = delete;
+    PainterStateGuard &operator=(const PainterStateGuard &) = delete;
+
+private:
+    QPainter &m_painter;
+};
+
+void strokeWithDefaultWidth(QPainter &painter, const QPainterPath &path, const QColor &colour)
+{
+    painter.strokePath(path, outlinePen(colour, bezierPathDefaultLineWidth()));
+}
+
+} // namespace
+
+QRectF selectionShapeRect(const QRectF &rowRect, bool hasCustomImage)
+{
+    return hasCustomImage ? rowRect : insetRect(rowRect, 0.5f, 0.5f, 1.0f);
+}
+
+qreal indentationOffset(int level, qreal indentationPerLevel, bool expandable)
+{
+    const int indent = truncatedToInt32(double(level) * indentationPerLevel);
+    // Items without a disclosure triangle sit further right than the triangles of their
+    // siblings; the top level has no triangles to line up with.
+    return (!expandable && level != 0) ? qreal(indent) + 16.0 : qreal(indent);
+}
+
+float highlightCornerRadius(float shapeHeight, quint32 style)
+{
+    switch (style) {
+    case 1:
+        return 0.5f * shapeHeight;
+    case 2:
+        return 0.2f * shapeHeight;
+    default:
+        return 0.0f;
+    }
+}
+
+QPainterPath highlightPath(const QRectF &rect, quint32 style)
+{
+    const ZARNRect shape = ZARNRect::fromQRectF(rect);
+    if (style == 1 || style == 2)
+        return bezierPathWithRoundedRect(shape, highlightCornerRadius(shape.height(), style));
+    QPainterPath path;
+    path.addRect(shape.toQRectF());
+    return path;
+}
+
+void fillPathWithStretchedImage(QPainter &painter, const QPainterPath &path, const QRectF &rect, const QImage &image)
+{
+    if (image.isNull() || rect.isEmpty())
+        return;
+    // A texture brush mapped so that the image's whole extent covers the rectangle once.
+    QBrush brush(image);
+    brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y())
+                           .scale(rect.width() / image.width(), rect.height() / image.height()));
+    painter.fillPath(path, brush);
+}
+
+void drawRowHighlight(QPainter &painter, const QRectF &rowRect, quint32 style, const SelectionColors &colors,
+                      const QImage &gradient, const QImage &customImage)
+{
+    const bool hasCustomImage = !customImage.isNull();
+    const QRectF shape = selectionShapeRect(rowRect, hasCustomImage);
+    const QPainterPath path = highlightPath(shape, style);
+    PainterStateGuard guard(painter);
+    if (hasCustomImage) {
+        fillPathWithStretchedImage(painter, path, shape, customImage);
+        return;
+    }
+    // The fill goes over the stroke and covers its inner half; the visible outline is the
+    // outer half-pixel, which keeps the shape's edge crisp.
+    painter.strokePath(path, outlinePen(colors.outline, 1.0));
+    if (colors.drawsGradient)
+        fillPathWithStretchedImage(painter, path, shape, gradient);
+    else
+        painter.fillPath(path, colors.fill);
+}
+
+QRectF dropHighlightRect(const QRectF &rowRect, bool hasCustomImage)
+{
+    return hasCustomImage ? rowRect : insetRect(rowRect, 1.0f, 1.0f, 1.0f);
+}
+
+void drawDropHighlightOnRow(QPainter &painter, const QRectF &rect, bool rowSelected, const SelectionColors &colors)
+{
+    const QPainterPath path = bezierPathWithRoundedRect(ZARNRect::fromQRectF(rect), dropCornerRadius);
+    PainterStateGuard guard(painter);
+    if (!rowSelected)
+        painter.fillPath(path, withAlpha(colors.fill.toHsv(), 0.15f));
+    const QColor stroke = rowSelected ? colors.outline : withAlpha(colors.outline.toRgb(), 0.9f);
+    // Intended: the default stays 2.0 for every later stroke that uses it.
+    setBezierPathDefaultLineWidth(markerLineWidth);
+    strokeWithDefaultWidth(painter, path, stroke);
+}
+
+void drawDropHighlightOnView(QPainter &painter, const QRectF &bounds, const SelectionColors &colors)
+{
+    const QColor colour = withAlpha(colors.outline.toRgb(), 0.9f);
+    const qreal width = 2.0;
+    const QRectF inner = bounds.adjusted(width, width, -width, -width);
+    // Four strips inside the bounds, the corners belonging to the top and bottom strips.
+    painter.fillRect(QRectF(bounds.left(), bounds.top(), bounds.width(), width), colour);
+    painter.fillRect(QRectF(bounds.left(), bounds.bottom() - width, bounds.width(), width), colour);
+    painter.fillRect(QRectF(bounds.left(), inner.top(), width, inner.height()), colour);
+    painter.fillRect(QRectF(bounds.right() - width, inner.top(), width, inner.height()), colour);
+}
+
+std::optional<QLineF> dropLineBetweenRows(int upper, int lower, int rowCount, const std::function<QRectF(int)> &rectOfRow,
+                                          const QRectF &bounds, qreal offset)
+{
+    ZARNRect base;
+    float y = 0;
+    if (upper < 0 && lower == 0) {
+        base = insetRect(ZARNRect::fromQRectF(bounds), 1.0f, 1.0f);
+        y = base.y();
+    } else if (!rectOfRow) {
+        return std::nullopt;
+    } else if (upper >= 0 && upper < rowCount && upper < lower && lower < rowCount) {
+        base = insetRect(ZARNRect::fromQRectF(rectOfRow(lower)), 1.0f, 0.0f);
+        y = base.y();
+    } else if (upper == rowCount - 1 && lower == rowCount) {
+        base = insetRect(ZARNRect::fromQRectF(rectOfRow(upper)), 1.0f, 1.0f);
+        y = base.maxY();
+    } else {
+        return std::nullopt;
+    }
+    return QLineF(float(offset) + base.x(), y, base.maxX(), y);
+}
+
+void drawDropMarker(QPainter &painter, const QLineF &line, const SelectionColors &colors)
+{
+    const qreal x = line.x1();
+    const qreal y = line.y1();
+    QPainterPath oval;
+    oval.addEllipse(QRectF(x - 6.0, y - 3.0, 6.0, 6.0));
+    QPainterPath stroke(QPointF(x, y));
+    stroke.lineTo(line.x2(), y);
+
+    PainterStateGuard guard(painter);
+    painter.fillPath(oval, Qt::white);
+    // Intended: the default stays 2.0 for every later stroke that uses it.
+    setBezierPathDefaultLineWidth(markerLineWidth);
+    strokeWithDefaultWidth(painter, stroke, colors.outline);
+    strokeWithDefaultWidth(painter, oval, colors.outline);
+}
+
+int textCellInset(qreal frameHeight)
+{
+    return truncatedToInt32(frameHeight * 0.25);
+}
+
+QRect insetTextCellFrame(QRect frame, quint32 style, int column, int columnCount)
+{
+    if (style != 1 && style != 2)
+        return frame;
+    const int inset = textCellInset(frame.height());
+    if (column == 0)
+        frame.setLeft(frame.left() + inset);
+    else if (column == columnCount - 1)
+        frame.setWidth(frame.width() - inset);
+    return frame;
+}
+
+DropPosition dropPositionInRow(const QRect &rowRect, int y, bool rowAcceptsDrops)
+{
+    // In 64 bits, so that no point and row can overflow the distances.
+    const qint64 margin = qBound(2, qRound(qreal(rowRect.height()) / 5.5), 12);
+    if (qint64(y) - rowRect.top() < margin)
+        return DropPosition::AboveRow;
+    if (qint64(rowRect.bottom()) - y < margin)
+        return DropPosition::BelowRow;
+    if (!rowAcceptsDrops)
+        return y < rowRect.center().y() ? DropPosition::AboveRow : DropPosition::BelowRow;
+    return DropPosition::OnRow;
+}
+
+} // namespace brixel
