@@ -8,6 +8,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <cmath>
+
 namespace brixel {
 
 namespace {
@@ -60,6 +63,30 @@ void strokeWithDefaultWidth(QPainter &painter, const QPainterPath &path, const Q
     painter.strokePath(path, outlinePen(colour, bezierPathDefaultLineWidth()));
 }
 
+// Source pixels that half a target pixel spans at \a scale, plus one, at most \a extent.
+int borderForScale(qreal scale, int extent)
+{
+    return int(std::min<qreal>(extent, 1.0 + std::ceil(0.5 / scale)));
+}
+
+// \a image inside a border \a borderX wide at the sides and \a borderY at the top and bottom,
+// each border pixel a copy of the nearest edge pixel.
+QImage withRepeatedEdges(const QImage &image, int borderX, int borderY)
+{
+    const QImage source = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const int width = source.width();
+    const int height = source.height();
+    QImage padded(width + 2 * borderX, height + 2 * borderY, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < padded.height(); ++y) {
+        const auto *from = reinterpret_cast<const QRgb *>(source.constScanLine(std::clamp(y - borderY, 0, height - 1)));
+        auto *to = reinterpret_cast<QRgb *>(padded.scanLine(y));
+        std::fill_n(to, borderX, from[0]);
+        std::copy_n(from, width, to + borderX);
+        std::fill_n(to + borderX + width, borderX, from[width - 1]);
+    }
+    return padded;
+}
+
 } // namespace
 
 QRectF selectionShapeRect(const QRectF &rowRect, bool hasCustomImage)
@@ -99,12 +126,18 @@ QPainterPath highlightPath(const QRectF &rect, quint32 style)
 
 void fillPathWithStretchedImage(QPainter &painter, const QPainterPath &path, const QRectF &rect, const QImage &image)
 {
-    if (image.isNull() || rect.isEmpty())
+    if (image.isNull() || !(rect.width() > 0) || !(rect.height() > 0))
         return;
-    // A texture brush mapped so that the image's whole extent covers the rectangle once.
-    QBrush brush(image);
-    brush.setTransform(QTransform::fromTranslate(rect.x(), rect.y())
-                           .scale(rect.width() / image.width(), rect.height() / image.height()));
+    // Antialiased edges sample up to half a target pixel outside the rectangle, and texture
+    // brushes repeat; a border of repeated edge pixels keeps those samples from wrapping
+    // round to the opposite edge.
+    const qreal scaleX = rect.width() / image.width();
+    const qreal scaleY = rect.height() / image.height();
+    const int borderX = borderForScale(scaleX, image.width());
+    const int borderY = borderForScale(scaleY, image.height());
+    QBrush brush(withRepeatedEdges(image, borderX, borderY));
+    brush.setTransform(QTransform::fromTranslate(rect.x() - borderX * scaleX, rect.y() - borderY * scaleY)
+                           .scale(scaleX, scaleY));
     painter.fillPath(path, brush);
 }
 

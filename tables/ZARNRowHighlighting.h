@@ -84,9 +84,12 @@ BRIXEL_EXPORT void drawRowHighlight(QPainter &painter, const QRectF &rowRect, qu
                                     const QImage &customImage);
 
 /**
- * Fills \a path with \a image stretched from its whole extent over \a rect. It gives the same
- * pixels as clipping to the path and drawing the image into the rectangle, at a fraction of
- * the cost. A null image or an empty rectangle draws nothing.
+ * Fills \a path with \a image stretched from its whole extent over \a rect: what clipping to
+ * the path and drawing the image into the rectangle shows, at a fraction of the cost. Edge
+ * pixels are covered as far as the path covers them, where Qt's clip either cuts whole pixels
+ * (rectangles) or weakens the image's own antialiased edge a second time (curves); they take
+ * the colour of the image's nearest edge pixel. A null image or an empty rectangle draws
+ * nothing.
  */
 BRIXEL_EXPORT void fillPathWithStretchedImage(QPainter &painter, const QPainterPath &path, const QRectF &rect,
                                               const QImage &image);
