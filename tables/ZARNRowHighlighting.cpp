@@ -87,6 +87,19 @@ QImage withRepeatedEdges(const QImage &image, int borderX, int borderY)
     return padded;
 }
 
+// The highlight shape of \a shape grown by \a amount on every side (shrunk when negative),
+// its corners kept concentric: the edges of a stroke \a amount * 2 wide with mitred corners.
+QPainterPath grownHighlightPath(const ZARNRect &shape, quint32 style, float amount)
+{
+    const ZARNRect grown = insetRect(shape, -amount, -amount);
+    const float radius = highlightCornerRadius(shape.height(), style);
+    if (radius > 0.0f)
+        return bezierPathWithRoundedRect(grown, std::max(0.0f, radius + amount));
+    QPainterPath path;
+    path.addRect(grown.toQRectF());
+    return path;
+}
+
 } // namespace
 
 QRectF selectionShapeRect(const QRectF &rowRect, bool hasCustomImage)
@@ -116,12 +129,16 @@ float highlightCornerRadius(float shapeHeight, quint32 style)
 
 QPainterPath highlightPath(const QRectF &rect, quint32 style)
 {
+    return grownHighlightPath(ZARNRect::fromQRectF(rect), style, 0.0f);
+}
+
+QPainterPath highlightOutlineRing(const QRectF &rect, quint32 style, float lineWidth)
+{
     const ZARNRect shape = ZARNRect::fromQRectF(rect);
-    if (style == 1 || style == 2)
-        return bezierPathWithRoundedRect(shape, highlightCornerRadius(shape.height(), style));
-    QPainterPath path;
-    path.addRect(shape.toQRectF());
-    return path;
+    QPainterPath ring = grownHighlightPath(shape, style, 0.5f * lineWidth);
+    ring.addPath(grownHighlightPath(shape, style, -0.5f * lineWidth));
+    ring.setFillRule(Qt::OddEvenFill);
+    return ring;
 }
 
 void fillPathWithStretchedImage(QPainter &painter, const QPainterPath &path, const QRectF &rect, const QImage &image)
@@ -152,9 +169,10 @@ void drawRowHighlight(QPainter &painter, const QRectF &rowRect, quint32 style, c
         fillPathWithStretchedImage(painter, path, shape, customImage);
         return;
     }
-    // The fill goes over the stroke and covers its inner half; the visible outline is the
-    // outer half-pixel, which keeps the shape's edge crisp.
-    painter.strokePath(path, outlinePen(colors.outline, 1.0));
+    // The fill goes over the outline and covers its inner half; the visible outline is the
+    // outer half-pixel, which keeps the shape's edge crisp. The ring is filled rather than the
+    // path stroked: the same pixels, several times faster.
+    painter.fillPath(highlightOutlineRing(shape, style, 1.0f), colors.outline);
     if (colors.drawsGradient)
         fillPathWithStretchedImage(painter, path, shape, gradient);
     else

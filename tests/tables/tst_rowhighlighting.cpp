@@ -103,6 +103,8 @@ private Q_SLOTS:
     void dropPosition();
     void selectedRow_data();
     void selectedRow();
+    void ringMatchesStroke_data();
+    void ringMatchesStroke();
     void textureFillMatchesClippedImage_data();
     void textureFillMatchesClippedImage();
     void drops_data();
@@ -311,6 +313,58 @@ void TestRowHighlighting::selectedRow()
         QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));   // state restored
     });
     verifyPixels(image, pixels);
+}
+
+void TestRowHighlighting::ringMatchesStroke_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<float>("width");
+    QTest::newRow("rectangle") << 0u << 1.0f;
+    QTest::newRow("capsule") << 1u << 1.0f;
+    QTest::newRow("rounded rectangle") << 2u << 1.0f;
+    QTest::newRow("rounded rectangle, wide line") << 2u << 3.0f;
+}
+
+// Filling the ring covers the pixels a mitred stroke of the shape covers. The stroke is drawn
+// four times larger without antialiasing and averaged down, which measures each pixel's
+// coverage more closely than Qt's antialiased stroke (it flattens curves coarsely and leaves
+// the corner where a rectangle's path closes unmitred); 16 samples a pixel still leave some
+// error along curves, hence the tolerance.
+void TestRowHighlighting::ringMatchesStroke()
+{
+    QFETCH(quint32, style);
+    QFETCH(float, width);
+    const QRectF shape = selectionShapeRect(row, false);
+    const QImage ring = picture([&](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(highlightOutlineRing(shape, style, width), Qt::black);
+    });
+    QImage large(480, 120, QImage::Format_ARGB32_Premultiplied);
+    large.fill(Qt::transparent);
+    {
+        QPainter painter(&large);
+        painter.scale(4, 4);
+        // A rectangle that starts halfway along the top edge, so no corner is where it closes.
+        QPainterPath path = highlightPath(shape, style);
+        if (style == 0) {
+            path = QPainterPath(QPointF(shape.center().x(), shape.top()));
+            for (const QPointF &corner : {shape.topRight(), shape.bottomRight(), shape.bottomLeft(), shape.topLeft()})
+                path.lineTo(corner);
+            path.closeSubpath();
+        }
+        painter.strokePath(path, QPen(Qt::black, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    }
+    const QImage stroke = large.scaled(120, 30, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int covered = 0;
+    for (int y = 0; y < ring.height(); ++y) {
+        for (int x = 0; x < ring.width(); ++x) {
+            const int a = ring.pixelColor(x, y).alpha();
+            const int b = stroke.pixelColor(x, y).alpha();
+            QVERIFY2(qAbs(a - b) <= 40, qPrintable(QStringLiteral("(%1, %2): %3, stroke %4").arg(x).arg(y).arg(a).arg(b)));
+            covered += a > 128;
+        }
+    }
+    QVERIFY(covered > 200);
 }
 
 void TestRowHighlighting::textureFillMatchesClippedImage_data()
