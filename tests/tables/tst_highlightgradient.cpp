@@ -30,8 +30,6 @@ private Q_SLOTS:
     void rebuilds_data();
     void rebuilds();
     void invalidateTakesTheNewColour();
-    void imageSize_data();
-    void imageSize();
     void colours_data();
     void colours();
 };
@@ -41,16 +39,17 @@ void TestHighlightGradient::rebuilds_data()
     QTest::addColumn<QList<qreal>>("rowHeights");
     QTest::addColumn<int>("rebuilds");
     QTest::addColumn<int>("lastRowHeight");
+    QTest::addColumn<int>("imageHeight");
 
-    QTest::newRow("same height is made once") << QList<qreal>{18, 18, 18} << 1 << 18;
-    QTest::newRow("each change rebuilds") << QList<qreal>{18, 20, 18} << 3 << 18;
-    QTest::newRow("fractional height rebuilds every time") << QList<qreal>{17.5, 17.5, 17.5} << 3 << 17;
+    QTest::newRow("same height is made once") << QList<qreal>{18, 18, 18} << 1 << 18 << 18;
+    QTest::newRow("each change rebuilds") << QList<qreal>{18, 20, 18} << 3 << 18 << 18;
+    QTest::newRow("fractional height rebuilds every time") << QList<qreal>{17.5, 17.5, 17.5} << 3 << 17 << 18;
     // The stored height is truncated, so the whole height after it matches.
-    QTest::newRow("whole height after its fraction is reused") << QList<qreal>{17.5, 17} << 1 << 17;
+    QTest::newRow("whole height after its fraction is reused") << QList<qreal>{17.5, 17} << 1 << 17 << 18;
     // A new cache's -1 matches no image.
-    QTest::newRow("-1 on a new cache builds") << QList<qreal>{-1} << 1 << -1;
-    QTest::newRow("NaN never matches") << QList<qreal>{notANumber, notANumber} << 2 << INT_MIN;
-    QTest::newRow("huge stores the 32-bit minimum") << QList<qreal>{1e300, 1e300} << 2 << INT_MIN;
+    QTest::newRow("-1 on a new cache builds") << QList<qreal>{-1} << 1 << -1 << 1;
+    QTest::newRow("NaN never matches") << QList<qreal>{notANumber, notANumber} << 2 << INT_MIN << 1;
+    QTest::newRow("huge: 32-bit minimum, height capped") << QList<qreal>{1e300, 1e300} << 2 << INT_MIN << 4096;
 }
 
 void TestHighlightGradient::rebuilds()
@@ -58,12 +57,15 @@ void TestHighlightGradient::rebuilds()
     QFETCH(QList<qreal>, rowHeights);
     QFETCH(int, rebuilds);
     QFETCH(int, lastRowHeight);
+    QFETCH(int, imageHeight);
     HighlightGradientCache cache;
     QCOMPARE(cache.lastRowHeight(), -1);
+    QImage image;
     for (qreal height : rowHeights)
-        QVERIFY(!cache.image(height, highlight).isNull());
+        image = cache.image(height, highlight);
     QCOMPARE(cache.rebuildCount(), rebuilds);
     QCOMPARE(cache.lastRowHeight(), lastRowHeight);
+    QCOMPARE(image.size(), QSize(64, imageHeight));
 }
 
 void TestHighlightGradient::invalidateTakesTheNewColour()
@@ -77,27 +79,6 @@ void TestHighlightGradient::invalidateTakesTheNewColour()
     QCOMPARE(cache.rebuildCount(), 2);
     QCOMPARE(cache.lastRowHeight(), 18);
     QVERIFY(after.pixelColor(0, 9).red() > 200);
-}
-
-void TestHighlightGradient::imageSize_data()
-{
-    QTest::addColumn<qreal>("rowHeight");
-    QTest::addColumn<QSize>("size");
-
-    QTest::newRow("whole") << qreal(18) << QSize(64, 18);
-    QTest::newRow("fraction rounds up") << qreal(17.25) << QSize(64, 18);
-    QTest::newRow("zero") << qreal(0) << QSize(64, 1);
-    QTest::newRow("negative") << qreal(-5) << QSize(64, 1);
-    QTest::newRow("NaN") << notANumber << QSize(64, 1);
-    QTest::newRow("huge is capped") << qreal(1e9) << QSize(64, 4096);
-}
-
-void TestHighlightGradient::imageSize()
-{
-    QFETCH(qreal, rowHeight);
-    QFETCH(QSize, size);
-    HighlightGradientCache cache;
-    QCOMPARE(cache.image(rowHeight, highlight).size(), size);
 }
 
 void TestHighlightGradient::colours_data()

@@ -91,8 +91,6 @@ class TestSelectionColors : public QObject
 private Q_SLOTS:
     void colourRule_data();
     void colourRule();
-    void outlineRule_data();
-    void outlineRule();
     void views_data();
     void views();
     void nullView();
@@ -104,16 +102,17 @@ void TestSelectionColors::colourRule_data()
     QTest::addColumn<bool>("focused");
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<QColor>("expected");
+    QTest::addColumn<QColor>("outline");   // value times 0.8, opaque
 
-    QTest::newRow("focused: the highlight colour") << highlight << true << true << highlight;
-    QTest::newRow("background: grey 0.7") << highlight << false << true << grey70;
-    QTest::newRow("invalid highlight: black") << QColor() << true << true << QColor(Qt::black);
+    QTest::newRow("focused: the highlight colour") << highlight << true << true << highlight << rgb(0.16f, 0.32f, 0.64f);
+    QTest::newRow("background: grey 0.7") << highlight << false << true << grey70 << rgb(0.56f, 0.56f, 0.56f);
+    QTest::newRow("invalid highlight: black") << QColor() << true << true << QColor(Qt::black) << QColor(Qt::black);
     // HSV (220, 0.75, 0.8) -> (220, 0.225, 0.8) = RGB (0.62, 0.68, 0.8) -> luminance 0.67574.
-    QTest::newRow("disabled: desaturated, then its luminance") << highlight << true << false << rgb(0.67574f, 0.67574f, 0.67574f);
+    QTest::newRow("disabled: desaturated, then its luminance") << highlight << true << false
+                                                               << rgb(0.67574f, 0.67574f, 0.67574f) << rgb(0.5406f, 0.5406f, 0.5406f);
     // (0, 1, 1) -> (0, 0.3, 1) = (1, 0.7, 0.7): luminance weights 0.299, 0.587, 0.114.
-    QTest::newRow("disabled red") << rgb(1, 0, 0) << true << false << rgb(0.7897f, 0.7897f, 0.7897f);
-    QTest::newRow("disabled keeps alpha") << rgb(1, 0, 0, 0.5f) << true << false << rgb(0.7897f, 0.7897f, 0.7897f, 0.5f);
-    QTest::newRow("disabled background grey stays 0.7") << highlight << false << false << grey70;
+    QTest::newRow("disabled keeps alpha; outline opaque") << rgb(1, 0, 0, 0.5f) << true << false
+                                                          << rgb(0.7897f, 0.7897f, 0.7897f, 0.5f) << rgb(0.6318f, 0.6318f, 0.6318f);
 }
 
 void TestSelectionColors::colourRule()
@@ -122,27 +121,11 @@ void TestSelectionColors::colourRule()
     QFETCH(bool, focused);
     QFETCH(bool, enabled);
     QFETCH(QColor, expected);
+    QFETCH(QColor, outline);
     const QColor actual = brixel::selectionColor(systemHighlight, focused, enabled);
     QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
-}
-
-void TestSelectionColors::outlineRule_data()
-{
-    QTest::addColumn<QColor>("selection");
-    QTest::addColumn<QColor>("expected");
-
-    QTest::newRow("value times 0.8") << highlight << rgb(0.16f, 0.32f, 0.64f);
-    QTest::newRow("grey stays grey") << grey70 << rgb(0.56f, 0.56f, 0.56f);
-    QTest::newRow("always opaque") << rgb(1, 0, 0, 0.25f) << rgb(0.8f, 0, 0);
-    QTest::newRow("invalid: black") << QColor() << QColor(Qt::black);
-}
-
-void TestSelectionColors::outlineRule()
-{
-    QFETCH(QColor, selection);
-    QFETCH(QColor, expected);
-    const QColor actual = brixel::selectionOutlineColor(selection);
-    QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
+    const QColor actualOutline = brixel::selectionOutlineColor(actual);
+    QVERIFY2(brixeltest::colorsClose(actualOutline, outline, 1), qPrintable(describe(actualOutline)));
 }
 
 void TestSelectionColors::views_data()
