@@ -14,15 +14,6 @@
 
 namespace {
 
-Qt::Alignment alignmentValue(const QVariant &value)
-{
-    if (!value.isValid())
-        return Qt::AlignLeft;
-    if (value.metaType() == QMetaType::fromType<Qt::Alignment>())
-        return value.value<Qt::Alignment>();
-    return Qt::Alignment(value.toInt());
-}
-
 qreal horizontalOffset(Qt::Alignment alignment, qreal available, qreal lineWidth)
 {
     if (alignment & Qt::AlignRight)
@@ -92,7 +83,8 @@ Qt::Alignment AttributedTextLayout::alignmentAt(qsizetype index) const
 {
     if (index >= m_string.length())
         return m_alignment;
-    return alignmentValue(m_string.attribute(ZARNParagraphAlignmentAttributeName, index));
+    // Stored as a Qt::Alignment or as its int; a missing alignment reads as 0, which is left.
+    return Qt::Alignment(m_string.attribute(ZARNParagraphAlignmentAttributeName, index).toInt());
 }
 
 void AttributedTextLayout::drawShadows(QPainter &painter, const QTextLine &line, QPointF origin) const
