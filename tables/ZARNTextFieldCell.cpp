@@ -9,6 +9,7 @@
 #include <Brixel/ZARNTextTruncation.h>
 
 #include <QBrush>
+#include <QIcon>
 #include <QPainter>
 
 #include <cmath>
@@ -169,6 +170,14 @@ QSize ZARNTextFieldCell::sizeHint(const QStyleOptionViewItem &option, const QMod
     const TextStyle style = textStyle(option, index);
     const QSizeF size = textCellSize(style.text, style.font);
     return {int(std::ceil(size.width())), int(std::ceil(size.height()))};
+}
+
+void ZARNTextFieldCell::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->features &= ~QStyleOptionViewItem::HasDecoration;
+    option->icon = QIcon();
+    option->decorationSize = QSize();
 }
 
 void ZARNTextFieldCell::copyTextSettingsTo(ZARNTextFieldCell &cell) const

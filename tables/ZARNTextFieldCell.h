@@ -94,6 +94,10 @@ public:
     virtual ZARNTextFieldCell *copy(QObject *parent = nullptr) const;
 
 protected:
+    /// QStyledItemDelegate's option without the decoration, which a text cell does not draw,
+    /// so that the editor does not leave room for it.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
     /// Gives \a cell this cell's colours, background setting and font.
     void copyTextSettingsTo(ZARNTextFieldCell &cell) const;
 
