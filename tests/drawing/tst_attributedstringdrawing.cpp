@@ -45,20 +45,6 @@ QImage render(Draw &&draw, QSize size = {400, 200})
     return image;
 }
 
-// The smallest rectangle holding every pixel that \a matches accepts; null when none does.
-template<typename Matches>
-QRect inkBounds(const QImage &image, Matches &&matches)
-{
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (matches(image.pixelColor(x, y)))
-                bounds |= QRect(x, y, 1, 1);
-        }
-    }
-    return bounds;
-}
-
 bool isInk(const QColor &color)
 {
     return color.red() < 160 && color.green() < 160 && color.blue() < 160;
@@ -163,7 +149,7 @@ void TestAttributedStringDrawing::alignsEachParagraph()
     const qreal advance = metrics.horizontalAdvance(u"Wx"_s);
     for (int line = 0; line < lineAlignments.size(); ++line) {
         const QImage band = image.copy(0, int(rect.y() + line * lineHeight()), image.width(), int(lineHeight()));
-        const QRect ink = inkBounds(band, isInk);
+        const QRect ink = brixeltest::pixelBounds(band, isInk);
         QVERIFY2(!ink.isNull(), qPrintable(u"line %1 drew nothing"_s.arg(line)));
         const Qt::Alignment alignment = lineAlignments.at(line);
         const qreal expectedLeft = rect.x()
@@ -207,8 +193,8 @@ void TestAttributedStringDrawing::shadowLiesUnderTheGlyphs()
     const qreal plainWidth = QFontMetricsF(bigFont()).horizontalAdvance(u"plain "_s);
     const int wordLeft = int(rect.x() + plainWidth);
     const QRect textInk =
-        inkBounds(without.copy(wordLeft, 0, without.width() - wordLeft, without.height()), isInk).translated(wordLeft, 0);
-    const QRect shadowInk = inkBounds(with, isRed);
+        brixeltest::pixelBounds(without.copy(wordLeft, 0, without.width() - wordLeft, without.height()), isInk).translated(wordLeft, 0);
+    const QRect shadowInk = brixeltest::pixelBounds(with, isRed);
     QVERIFY(!shadowInk.isNull());
     QCOMPARE_GE(shadowInk.left(), wordLeft - 6);
     if (expectedShift.x() >= 0)
@@ -244,11 +230,11 @@ void TestAttributedStringDrawing::antialiasing()
     const QImage image = render([&](QPainter &painter) {
         brixel::drawAttributedString(painter, string, QRectF(5, 5, 390, 190), true, antialiased);
     });
-    const QRect partial = inkBounds(image, [](const QColor &color) {
+    const QRect partial = brixeltest::pixelBounds(image, [](const QColor &color) {
         return color.red() > 30 && color.red() < 225;
     });
     QCOMPARE(partial.isNull(), !antialiased);
-    QVERIFY(!inkBounds(image, isInk).isNull());
+    QVERIFY(!brixeltest::pixelBounds(image, isInk).isNull());
 }
 
 void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle_data()
@@ -276,7 +262,7 @@ void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle()
     const qreal spacing = lineHeight();
     for (int line = 0; line < 3; ++line) {
         const QImage band = image.copy(0, int(10 + line * spacing + 2), image.width(), int(spacing) - 4);
-        QCOMPARE(!inkBounds(band, isInk).isNull(), line < linesDrawn);
+        QCOMPARE(!brixeltest::pixelBounds(band, isInk).isNull(), line < linesDrawn);
     }
 }
 

@@ -40,14 +40,7 @@ QStyleOptionViewItem viewOption(const QRect &rect)
 
 QRect coloured(const QImage &image, const QColor &color)
 {
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (brixeltest::colorsClose(image.pixelColor(x, y), color, 10))
-                bounds |= QRect(x, y, 1, 1);
-        }
-    }
-    return bounds;
+    return brixeltest::pixelBounds(image, [&](const QColor &pixel) { return brixeltest::colorsClose(pixel, color, 10); });
 }
 
 } // namespace

@@ -67,22 +67,9 @@ QImage paintCell(const ZARNTextFieldCell &cell, const QStyleOptionViewItem &opti
     return image;
 }
 
-template<typename Matches>
-QRect inkBounds(const QImage &image, Matches &&matches)
-{
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (matches(image.pixelColor(x, y)))
-                bounds |= QRect(x, y, 1, 1);
-        }
-    }
-    return bounds;
-}
-
 QRect differingPixels(const QImage &image, const QColor &background)
 {
-    return inkBounds(image, [&](const QColor &color) { return !brixeltest::colorsClose(color, background, 8); });
+    return brixeltest::pixelBounds(image, [&](const QColor &color) { return !brixeltest::colorsClose(color, background, 8); });
 }
 
 } // namespace
@@ -284,9 +271,9 @@ void TestTextFieldCell::selectedContentsAreRestyled()
     const QColor background(40, 40, 160);
     const QImage image = paintCell(cell, viewOption({0, 0, 120, 40}, true), model.index(0, 0), background);
 
-    const QRect white = inkBounds(image, [](const QColor &c) { return c.red() > 245 && c.green() > 245 && c.blue() > 245; });
-    const QRect red = inkBounds(image, [](const QColor &c) { return c.red() > 150 && c.green() < 80; });
-    const QRect shadowed = inkBounds(image, [](const QColor &c) { return c.blue() < 60; });
+    const QRect white = brixeltest::pixelBounds(image, [](const QColor &c) { return c.red() > 245 && c.green() > 245 && c.blue() > 245; });
+    const QRect red = brixeltest::pixelBounds(image, [](const QColor &c) { return c.red() > 150 && c.green() < 80; });
+    const QRect shadowed = brixeltest::pixelBounds(image, [](const QColor &c) { return c.blue() < 60; });
     QVERIFY(!white.isNull());
     QVERIFY(red.isNull());
     // The standard shadow lies one pixel below the white glyphs.
