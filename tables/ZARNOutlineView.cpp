@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNOutlineView.h"
 
+#include "ZARNHighlightGradient.h"
 #include "ZARNItemViewBehaviour.h"
+#include "ZARNNSTableHeaderView.h"
 #include "ZARNOutlineViewDelegate.h"
+#include "ZARNTableColumnList.h"
+#include "ZARNTextFieldCell.h"
 
 #include <QDropEvent>
 #include <QHeaderView>
@@ -12,6 +16,10 @@
 #include <QScrollBar>
 
 namespace {
+
+// The look of a disabled outline's text cells.
+const QColor DisabledTextColor = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
+const QColor DisabledBackgroundColor = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
 
 // How far a click is moved right when its item hides the disclosure marker: the marker's
 // width, so the click lands on the row's content.
@@ -69,12 +77,15 @@ public:
     void contextClick(const QMouseEvent &event);
     void finishDrop(bool deposited);
     void applyEnabledState(bool enabled);
+    QList<ZARNTextFieldCell *> textCells() const;
+    int outlineColumnIndex() const;
 
     ZARNOutlineView *const q;
     brixel::ItemViewBehaviour *const behaviour;
+    brixel::TableColumnList *columns = nullptr;
+    brixel::HighlightGradientCache gradient;
     ZARNOutlineViewDelegate *delegate = nullptr;
     quint32 highlightStyle = 0;
-    int lastHighlightGradientRowHeight = -1;
     bool highlightFollowsIndentation = true;
     bool showsIndentationMarker = true;
     bool collapseForDeposits = false;
@@ -91,6 +102,8 @@ public:
     bool trackingDrop = false;
     QList<QPersistentModelIndex> autoExpanded;
 
+    QList<QColor> savedTextColors;
+    QList<QColor> savedBackgroundColors;
     bool savedVerticalScrollBarEnabled = false;
     bool savedHorizontalScrollBarEnabled = false;
 };
@@ -150,10 +163,42 @@ void ZARNOutlineViewPrivate::finishDrop(bool deposited)
     }
 }
 
+QList<ZARNTextFieldCell *> ZARNOutlineViewPrivate::textCells() const
+{
+    QList<ZARNTextFieldCell *> cells;
+    const QList<ZARNTableColumn *> shown = columns->tableColumns();
+    for (const ZARNTableColumn *column : shown) {
+        if (auto *cell = qobject_cast<ZARNTextFieldCell *>(column->dataCell()))
+            cells.append(cell);
+    }
+    return cells;
+}
+
+int ZARNOutlineViewPrivate::outlineColumnIndex() const
+{
+    // Qt draws the tree in the first shown column unless a model column was chosen.
+    const int logical = q->treePosition();
+    return logical < 0 ? 0 : columns->columnIndex(columns->columnForModelColumn(logical));
+}
+
 void ZARNOutlineViewPrivate::applyEnabledState(bool enabled)
 {
     if (!enabled)
         q->saveState();
+    // Enabling hands the saved pairs out in column order; a column beyond them keeps its look.
+    // Colours saved invalid (the cell's default) are restored as they were.
+    const QList<ZARNTextFieldCell *> cells = textCells();
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        if (!enabled) {
+            cells[i]->setTextColor(DisabledTextColor);
+            cells[i]->setBackgroundColor(DisabledBackgroundColor);
+            continue;
+        }
+        if (i < savedTextColors.size())
+            cells[i]->setTextColor(savedTextColors[i]);
+        if (i < savedBackgroundColors.size())
+            cells[i]->setBackgroundColor(savedBackgroundColors[i]);
+    }
     restoreScrollBar(q->verticalScrollBar(), q->verticalScrollBarPolicy(), enabled && savedVerticalScrollBarEnabled);
     restoreScrollBar(q->horizontalScrollBar(), q->horizontalScrollBarPolicy(), enabled && savedHorizontalScrollBarEnabled);
 }
@@ -162,6 +207,16 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
     : QTreeView(parent)
     , d(std::make_unique<ZARNOutlineViewPrivate>(this))
 {
+    // The header a QTreeView makes for itself, as the library's header.
+    auto *columnHeader = new ZARNNSTableHeaderView(this);
+    columnHeader->setSectionsMovable(true);
+    columnHeader->setStretchLastSection(true);
+    columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    setHeader(columnHeader);
+    d->columns = new brixel::TableColumnList(this, columnHeader, this);
+    columnHeader->setColumnList(d->columns);
+    setItemDelegate(new ZARNTextFieldCell(this));
+
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &item) {
         if (d->trackingDrop)
             d->autoExpanded.append(item);
@@ -289,11 +344,75 @@ int ZARNOutlineView::numberOfRows() const
 
 int ZARNOutlineView::lastHighlightGradientRowHeight() const
 {
-    return d->lastHighlightGradientRowHeight;
+    return d->gradient.lastRowHeight();
+}
+
+QImage ZARNOutlineView::highlightGradientImage()
+{
+    const QModelIndex first = model() ? model()->index(0, 0, rootIndex()) : QModelIndex();
+    const int height = first.isValid() ? rowHeight(first) : 0;
+    return d->gradient.image(height, palette().color(QPalette::Active, QPalette::Highlight));
+}
+
+QList<ZARNTableColumn *> ZARNOutlineView::tableColumns() const
+{
+    return d->columns->tableColumns();
+}
+
+int ZARNOutlineView::numberOfColumns() const
+{
+    return d->columns->numberOfColumns();
+}
+
+int ZARNOutlineView::columnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->columnWithIdentifier(identifier);
+}
+
+ZARNTableColumn *ZARNOutlineView::tableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->tableColumnWithIdentifier(identifier);
+}
+
+void ZARNOutlineView::hideColumn(int index)
+{
+    const int count = numberOfColumns();
+    if (index < 0 || index >= count || count < 2)
+        return;
+    if (index == d->outlineColumnIndex())
+        setTreePosition(d->columns->columnAt(index == 0 ? 1 : 0)->modelColumn());
+    d->columns->hideColumn(index);
+}
+
+void ZARNOutlineView::hideColumnWithIdentifier(const QString &identifier)
+{
+    hideColumn(columnWithIdentifier(identifier));
+}
+
+ZARNTableColumn *ZARNOutlineView::hiddenTableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->hiddenTableColumnWithIdentifier(identifier);
+}
+
+void ZARNOutlineView::showColumnWithIdentifier(const QString &identifier)
+{
+    d->columns->showColumnWithIdentifier(identifier);
+}
+
+QList<ZARNTableColumn *> ZARNOutlineView::hiddenTableColumns() const
+{
+    return d->columns->hiddenTableColumns();
 }
 
 void ZARNOutlineView::saveState()
 {
+    d->savedTextColors.clear();
+    d->savedBackgroundColors.clear();
+    const QList<ZARNTextFieldCell *> cells = d->textCells();
+    for (const ZARNTextFieldCell *cell : cells) {
+        d->savedTextColors.append(cell->textColor());
+        d->savedBackgroundColors.append(cell->backgroundColor());
+    }
     d->savedVerticalScrollBarEnabled = scrollBarWasEnabled(verticalScrollBar(), verticalScrollBarPolicy());
     d->savedHorizontalScrollBarEnabled = scrollBarWasEnabled(horizontalScrollBar(), horizontalScrollBarPolicy());
 }
@@ -312,7 +431,8 @@ void ZARNOutlineView::deleteBackward()
 
 void ZARNOutlineView::userDefaultsDidChange()
 {
-    d->lastHighlightGradientRowHeight = -1;
+    d->gradient.invalidate();
+    viewport()->update();
 }
 
 bool ZARNOutlineView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)

@@ -9,6 +9,7 @@
 
 class QMenu;
 class ZARNOutlineViewDelegate;
+class ZARNTableColumn;
 
 /**
  * A tree view with the table view's keys, context click, drag-image flag and live resize,
@@ -33,6 +34,12 @@ class ZARNOutlineViewDelegate;
  * restores them. A disabled view ignores clicks and keys, and Qt gives a disabled widget no
  * keyboard focus (setFocus() and the Tab chain pass it by), which is what
  * acceptsFirstResponder() reports: isEnabled().
+ *
+ * Its cells are a ZARNTextFieldCell (the item delegate) and its header a
+ * ZARNNSTableHeaderView. Columns are the shown header sections in visual order, with one
+ * ZARNTableColumn each; they can be hidden and shown again by identifier as in
+ * ZARNTableView, except that the last shown column cannot be hidden, and hiding the column
+ * that holds the tree moves the tree to the first other column.
  *
  * \code
  * auto *outline = new ZARNOutlineView(parent);
@@ -115,6 +122,39 @@ public:
     int lastHighlightGradientRowHeight() const;
 
     /**
+     * The selection gradient for the height of the first row (brixel::HighlightGradientCache),
+     * from the palette's active highlight colour; made again when the row height changed or
+     * the application became active. Without rows: a 1-pixel-high image.
+     */
+    QImage highlightGradientImage();
+
+    /// The shown columns, left to right.
+    QList<ZARNTableColumn *> tableColumns() const;
+    int numberOfColumns() const;
+
+    /// The index among tableColumns() of the first shown column with \a identifier; -1 for none.
+    int columnWithIdentifier(const QString &identifier) const;
+    /// The shown column with \a identifier; null for none.
+    ZARNTableColumn *tableColumnWithIdentifier(const QString &identifier) const;
+
+    /**
+     * Hides the shown column at \a index (among tableColumns(), not a model column, unlike
+     * QTreeView::hideColumn()) and keeps it for showColumnWithIdentifier(); its sort
+     * indicator goes. Nothing happens for an index out of range or when fewer than two
+     * columns are shown. Hiding the column that holds the tree moves the tree to column 1
+     * when \a index is 0, else to column 0.
+     */
+    void hideColumn(int index);
+    /// hideColumn() of columnWithIdentifier(); an unknown identifier does nothing.
+    void hideColumnWithIdentifier(const QString &identifier);
+    /// The first hidden column (in hiding order) with \a identifier; null for none.
+    ZARNTableColumn *hiddenTableColumnWithIdentifier(const QString &identifier) const;
+    /// Shows hiddenTableColumnWithIdentifier() again, as the rightmost column.
+    void showColumnWithIdentifier(const QString &identifier);
+    /// The hidden columns in hiding order.
+    QList<ZARNTableColumn *> hiddenTableColumns() const;
+
+    /**
      * Saves the look that disabling greys out: the text and background colours of the text
      * cells, one pair per shown column whose cell is a text cell, in column order, and the
      * enabled state of each scroll bar that can appear (false for one whose policy is
@@ -133,7 +173,7 @@ public Q_SLOTS:
     void deleteBackward();
 
     /// The application became active: the selection gradient is remade with the current
-    /// system colours on its next use.
+    /// system colours on its next use, and the rows are redrawn.
     void userDefaultsDidChange();
 
 protected:

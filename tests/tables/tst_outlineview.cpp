@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/NSOutlineView_Category.h>
+#include <Brixel/ZARNNSTableHeaderView.h>
 #include <Brixel/ZARNOutlineView.h>
 #include <Brixel/ZARNOutlineViewDelegate.h>
+#include <Brixel/ZARNTableColumn.h>
 #include <Brixel/ZARNTableViewDataSource.h>
+#include <Brixel/ZARNTextFieldCell.h>
 
 #include "BrixelTest.h"
 
@@ -51,11 +54,13 @@ public:
     std::optional<bool> tableViewShouldSelectRow(ZARNTableView *, int) override { return false; }
 };
 
-// Rows "a" (children "a1" with child "a1x", and "a2"), "b", "c"; two columns.
+// Rows "a" (children "a1" with child "a1x", and "a2"), "b", "c"; columns "name", "size", "kind".
 void fill(QStandardItemModel &model)
 {
-    model.setColumnCount(2);
-    auto row = [](const QString &name) { return QList<QStandardItem *>{new QStandardItem(name), new QStandardItem(name + u"+"_s)}; };
+    model.setHorizontalHeaderLabels({u"name"_s, u"size"_s, u"kind"_s});
+    auto row = [](const QString &name) {
+        return QList<QStandardItem *>{new QStandardItem(name), new QStandardItem(name + u"+"_s), new QStandardItem(name + u"*"_s)};
+    };
     auto a = row(u"a"_s);
     auto a1 = row(u"a1"_s);
     a1.first()->appendRow(row(u"a1x"_s));
@@ -91,6 +96,14 @@ struct Fixture
     }
 
     QPoint pointIn(const QString &name, int x) const { return {x, view.visualRect(item(name)).center().y()}; }
+
+    QStringList shownColumns() const
+    {
+        QStringList identifiers;
+        for (const ZARNTableColumn *column : view.tableColumns())
+            identifiers << column->identifier();
+        return identifiers;
+    }
 
     QStringList selectedNames() const
     {
@@ -144,6 +157,7 @@ private:
 
 using ViewCheck = std::function<bool(const ZARNOutlineView &)>;
 using Action = std::function<void(Fixture &)>;
+using Colors = QList<QColor>;  // text, background of each cell checked
 Q_DECLARE_METATYPE(ViewCheck)
 Q_DECLARE_METATYPE(Action)
 
@@ -163,8 +177,13 @@ private Q_SLOTS:
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
     void disabledViewIgnoresInput();
+    void textCellsGreyWhileDisabled_data();
+    void textCellsGreyWhileDisabled();
     void scrollBarsFollowTheEnabledState_data();
     void scrollBarsFollowTheEnabledState();
+    void hidingColumns_data();
+    void hidingColumns();
+    void activationRemakesTheGradient();
     void drops_data();
     void drops();
     void qtAutoExpansionIsFollowed();
@@ -199,6 +218,12 @@ void TestOutlineView::defaults_data()
     QTest::newRow("gradient not made") << ViewCheck([](auto &v) { return v.lastHighlightGradientRowHeight() == -1; });
     QTest::newRow("takes focus while enabled") << ViewCheck([](auto &v) { return v.acceptsFirstResponder(); });
     QTest::newRow("no rows without a model") << ViewCheck([](auto &v) { return v.numberOfRows() == 0; });
+    QTest::newRow("text field cells") << ViewCheck([](auto &v) { return qobject_cast<ZARNTextFieldCell *>(v.itemDelegate()); });
+    QTest::newRow("the library's header, as Qt sets up its own")
+        << ViewCheck([](auto &v) {
+               auto *header = qobject_cast<ZARNNSTableHeaderView *>(v.header());
+               return header && header->sectionsMovable() && header->stretchLastSection();
+           });
 }
 
 void TestOutlineView::defaults()
@@ -412,6 +437,56 @@ void TestOutlineView::disabledViewIgnoresInput()
     QVERIFY(!f.view.acceptsFirstResponder());
 }
 
+void TestOutlineView::textCellsGreyWhileDisabled_data()
+{
+    QTest::addColumn<QList<Action>>("steps");
+    QTest::addColumn<Colors>("sharedCell");  // column "name": the view's own cell, colours unset
+    QTest::addColumn<Colors>("ownCell");     // column "kind": red on yellow; "size" is no text cell
+
+    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
+    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
+    const Action repaintOwnCell = [](Fixture &f) {
+        auto *cell = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegateForColumn(2));
+        cell->setTextColor(Qt::blue);
+    };
+    const QColor grey = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
+    const QColor light = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
+    const Colors greyed{grey, light};
+    const Colors unset{QColor(), QColor()};
+    const Colors own{Qt::red, Qt::yellow};
+
+    QTest::newRow("disabling greys every text cell") << QList{disable} << greyed << greyed;
+    QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own;
+    QTest::newRow("disabling twice saves once") << QList{disable, repaintOwnCell, disable, enable} << unset << own;
+    QTest::newRow("a disabled parent greys too") << QList{Action([](Fixture &f) { f.view.parentWidget()->setEnabled(false); })}
+                                                 << greyed << greyed;
+    // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
+    QTest::newRow("hiding a column while disabled shifts the pairs")
+        << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset;
+}
+
+void TestOutlineView::textCellsGreyWhileDisabled()
+{
+    QFETCH(QList<Action>, steps);
+    QFETCH(Colors, sharedCell);
+    QFETCH(Colors, ownCell);
+    QWidget parent;
+    Fixture f;
+    f.view.setParent(&parent);
+    f.view.setItemDelegateForColumn(1, new QStyledItemDelegate(&f.view));
+    auto *cell = new ZARNTextFieldCell(&f.view);
+    cell->setTextColor(Qt::red);
+    cell->setBackgroundColor(Qt::yellow);
+    f.view.setItemDelegateForColumn(2, cell);
+    auto *shared = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegate());
+
+    for (const Action &step : steps)
+        step(f);
+
+    QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
+    QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
+}
+
 void TestOutlineView::scrollBarsFollowTheEnabledState_data()
 {
     QTest::addColumn<Qt::ScrollBarPolicy>("policy");
@@ -450,6 +525,66 @@ void TestOutlineView::scrollBarsFollowTheEnabledState()
         step(f);
 
     QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
+}
+
+void TestOutlineView::hidingColumns_data()
+{
+    QTest::addColumn<int>("treePosition");
+    QTest::addColumn<Action>("hide");
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<int>("treePositionAfter");
+
+    const auto hide = [](QList<int> indexes) {
+        return Action([indexes](Fixture &f) {
+            for (int index : indexes)
+                f.view.hideColumn(index);
+        });
+    };
+    QTest::newRow("another column") << -1 << hide({1}) << QStringList{u"name"_s, u"kind"_s} << -1;
+    QTest::newRow("the tree's first column moves it to column 1") << -1 << hide({0}) << QStringList{u"size"_s, u"kind"_s} << 1;
+    QTest::newRow("the tree's chosen column moves it to column 0") << 2 << hide({2}) << QStringList{u"name"_s, u"size"_s} << 0;
+    QTest::newRow("tree column 0 chosen, moved to column 1") << 0 << hide({0}) << QStringList{u"size"_s, u"kind"_s} << 1;
+    QTest::newRow("by identifier") << -1 << Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); })
+                                   << QStringList{u"size"_s, u"kind"_s} << 1;
+    QTest::newRow("unknown identifier") << -1 << Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"date"_s); })
+                                        << QStringList{u"name"_s, u"size"_s, u"kind"_s} << -1;
+    QTest::newRow("out of range") << -1 << hide({-1, 3}) << QStringList{u"name"_s, u"size"_s, u"kind"_s} << -1;
+    QTest::newRow("the last column stays") << -1 << hide({1, 1, 0}) << QStringList{u"name"_s} << -1;
+    QTest::newRow("shown again at the right end")
+        << -1 << Action([](Fixture &f) {
+               f.view.hideColumn(0);
+               f.view.showColumnWithIdentifier(u"name"_s);
+           })
+        << QStringList{u"size"_s, u"kind"_s, u"name"_s} << 1;
+}
+
+void TestOutlineView::hidingColumns()
+{
+    QFETCH(int, treePosition);
+    QFETCH(Action, hide);
+    QFETCH(QStringList, shown);
+    QFETCH(int, treePositionAfter);
+    Fixture f;
+    f.view.setTreePosition(treePosition);
+
+    hide(f);
+
+    QCOMPARE(f.shownColumns(), shown);
+    QCOMPARE(f.view.treePosition(), treePositionAfter);
+    QCOMPARE(f.view.numberOfColumns(), shown.size());
+    QCOMPARE(f.view.hiddenTableColumns().size(), 3 - shown.size());
+}
+
+void TestOutlineView::activationRemakesTheGradient()
+{
+    Fixture f;
+    const int height = f.view.visualRect(f.item(u"a"_s)).height();
+    QCOMPARE(f.view.highlightGradientImage().height(), height);
+    QCOMPARE(f.view.lastHighlightGradientRowHeight(), height);
+
+    QMetaObject::invokeMethod(qApp, "applicationStateChanged", Q_ARG(Qt::ApplicationState, Qt::ApplicationActive));
+
+    QCOMPARE(f.view.lastHighlightGradientRowHeight(), -1);
 }
 
 void TestOutlineView::drops_data()
