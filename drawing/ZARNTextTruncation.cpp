@@ -1,39 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTextTruncation.h"
 
-#include <QFont>
+#include "ZARNAttributedStringDrawing.h"
+#include "ZARNTextLayout_p.h"
+
 #include <QLabel>
 #include <QStandardItem>
 #include <QTextLayout>
 
 #include <cmath>
-#include <limits>
 #include <stdexcept>
 
 namespace {
 
 constexpr float heightLimit = 10000.0f;
 const QString dots = QStringLiteral("...");
-
-// QTextLayout breaks lines only at U+2028; the text's own line breaks become that.
-QString withLineSeparators(QString text)
-{
-    for (QChar &character : text) {
-        if (character == u'\n' || character == u'\r')
-            character = QChar::LineSeparator;
-    }
-    return text;
-}
-
-void prepare(QTextLayout &layout, const ZARNAttributedString &string, QTextOption::WrapMode wrapMode)
-{
-    layout.setText(withLineSeparators(string.string()));
-    layout.setFont(QFont());
-    layout.setFormats(string.formatRanges());
-    QTextOption option;
-    option.setWrapMode(wrapMode);
-    layout.setTextOption(option);
-}
 
 bool fitsLimit(float width, double limit)
 {
@@ -73,16 +54,7 @@ void truncateCell(const QString &text, const QVariantMap &attributes, float widt
 
 float brixel::attributedStringWidth(const ZARNAttributedString &string)
 {
-    QTextLayout layout;
-    prepare(layout, string, QTextOption::NoWrap);
-    layout.beginLayout();
-    qreal widest = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(std::numeric_limits<float>::max());
-        widest = std::max(widest, line.naturalTextWidth());
-    }
-    layout.endLayout();
-    return float(widest);
+    return float(AttributedTextLayout(string, 0, false).width());
 }
 
 void TruncateStringInCell(QLabel *label, float width)
@@ -132,7 +104,7 @@ float ZARNAttributedStringHeightForWidth(const ZARNAttributedString &string, flo
         return 0.0f;
     // One layout serves every call, as the measurement runs often and in the GUI thread only.
     static QTextLayout layout;
-    prepare(layout, string, QTextOption::WrapAtWordBoundaryOrAnywhere);
+    brixel::prepareTextLayout(layout, string, QTextOption::WrapAtWordBoundaryOrAnywhere);
     const qreal lineWidth = width > 0 ? qreal(width) : 0.0;
     qreal height = 0;
     layout.beginLayout();

@@ -42,4 +42,16 @@ QColor colorAt(const QImage &image, QPoint point)
     return image.pixelColor(point);
 }
 
+QRect pixelBounds(const QImage &image, const std::function<bool(const QColor &)> &matches)
+{
+    QRect bounds;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (matches(image.pixelColor(x, y)))
+                bounds |= QRect(x, y, 1, 1);
+        }
+    }
+    return bounds;
+}
+
 } // namespace brixeltest

@@ -4,6 +4,9 @@
 #include <QColor>
 #include <QImage>
 #include <QPoint>
+#include <QRect>
+
+#include <functional>
 
 class QWidget;
 
@@ -24,5 +27,9 @@ bool colorsClose(const QColor &actual, const QColor &expected, int tolerance = 2
 
 /// The colour at \a point, or an invalid colour when the point lies outside the image.
 QColor colorAt(const QImage &image, QPoint point);
+
+/// The smallest rectangle holding every pixel of \a image whose colour \a matches accepts;
+/// a null rectangle when none does.
+QRect pixelBounds(const QImage &image, const std::function<bool(const QColor &)> &matches);
 
 } // namespace brixeltest

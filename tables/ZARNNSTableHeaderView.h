@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <Brixel/brixel_export.h>
+
+#include <QHeaderView>
+#include <QPointer>
+
+#include <memory>
+
+class ZARNTableColumn;
+
+namespace brixel {
+class TableColumnList;
+}
+
+/**
+ * The horizontal header of the library's table and outline views: a double-click on a column
+ * divider fits the column to its data (sizeToFitData()) instead of Qt's
+ * resizeColumnToContents(), and while its view is disabled the header ignores the mouse.
+ *
+ * A double-click counts as one on a divider where Qt's header shows its resize cursor: within
+ * the style's PM_HeaderGripMargin of a section's edge, when the section the edge belongs to is
+ * Interactive. The column fitted is then the one whose right edge is nearest the click, when
+ * that is less than 10 pixels away; at equal distances the leftmost column wins. The header's
+ * own handling (sectionHandleDoubleClicked(), and so the view's resizeColumnToContents()) does
+ * not happen then. Any other double-click, or any double-click while
+ * resizeColumnsOnDoubleClick() is false, goes to QHeaderView as usual.
+ *
+ * \code
+ * auto *header = new ZARNNSTableHeaderView(view);
+ * view->setHorizontalHeader(header);
+ * header->setColumnList(columns); // optional: the view's own column objects
+ * \endcode
+ *
+ * The header uses the column objects of the list set with setColumnList(); without one it
+ * makes its own for the item view it belongs to (its parent widget).
+ */
+class BRIXEL_EXPORT ZARNNSTableHeaderView : public QHeaderView
+{
+    Q_OBJECT
+public:
+    explicit ZARNNSTableHeaderView(QWidget *parent = nullptr);
+    ~ZARNNSTableHeaderView() override;
+
+    /// Whether a double-click on a divider fits the column to its data; true by default.
+    bool resizeColumnsOnDoubleClick() const;
+    void setResizeColumnsOnDoubleClick(bool resize);
+
+    /// The column objects the header works on (not owned); null makes it use its own.
+    void setColumnList(brixel::TableColumnList *columns);
+
+    /**
+     * The column a double-click at \a x (viewport coordinates) fits: null unless Qt's header
+     * shows its resize cursor at \a x and a column's right edge is less than 10 pixels away.
+     */
+    ZARNTableColumn *columnToFitAt(qreal x);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+
+private:
+    bool viewIsEnabled() const;
+    bool showsResizeCursorAt(int x) const;
+    int sectionHandleAt(int x) const;
+    brixel::TableColumnList &columns();
+
+    QPointer<brixel::TableColumnList> m_columns;
+    std::unique_ptr<brixel::TableColumnList> m_ownColumns;
+    bool m_resizeColumnsOnDoubleClick = true;
+};

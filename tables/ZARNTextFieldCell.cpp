@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "ZARNTextFieldCell.h"
+
+#include <Brixel/NSAttributedString_Category.h>
+#include <Brixel/NSMutableAttributedString_Category.h>
+#include <Brixel/ZARNAttributedStringDrawing.h>
+#include <Brixel/ZARNSystemVersion.h>
+#include <Brixel/ZARNTableView.h>
+#include <Brixel/ZARNTextTruncation.h>
+
+#include <QBrush>
+#include <QIcon>
+#include <QPainter>
+
+#include <cmath>
+
+namespace {
+
+constexpr Qt::Alignment verticalMask = Qt::AlignVertical_Mask;
+
+// The truncation functions' rule, in their float arithmetic: text fits a cell when it measures
+// at most the cell's width minus the margin, which is the padding at both sides.
+bool fitsCell(qreal textWidth, qreal cellWidth)
+{
+    return !(double(float(textWidth)) > double(float(cellWidth)) - ZARNTruncationMargin);
+}
+
+QPalette::ColorGroup colorGroup(const QStyleOptionViewItem &option)
+{
+    if (!(option.state & QStyle::State_Enabled))
+        return QPalette::Disabled;
+    return option.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+}
+
+QColor foregroundColor(const QVariant &value)
+{
+    if (value.metaType() == QMetaType::fromType<QColor>())
+        return value.value<QColor>();
+    return value.value<QBrush>().color();
+}
+
+// Draws \a layout in the cell \a bounds: inside the padding, placed vertically by \a alignment.
+void placeText(QPainter &painter, const brixel::AttributedTextLayout &layout, const QRectF &bounds,
+               Qt::Alignment alignment)
+{
+    const qreal height = layout.height();
+    qreal y = bounds.top() + std::floor((bounds.height() - height) / 2);
+    if (alignment & Qt::AlignTop)
+        y = bounds.top();
+    else if (alignment & Qt::AlignBottom)
+        y = bounds.bottom() - height;
+    const qreal padding = ZARNTextFieldCell::horizontalPadding;
+    layout.draw(painter, QRectF(bounds.left() + padding, y, bounds.width() - 2 * padding, height));
+}
+
+} // namespace
+
+ZARNTextFieldCell::ZARNTextFieldCell(QObject *parent)
+    : QStyledItemDelegate(parent)
+{
+}
+
+ZARNTextFieldCell::~ZARNTextFieldCell() = default;
+
+ZARNTextFieldCell::TextStyle ZARNTextFieldCell::textStyle(const QStyleOptionViewItem &option,
+                                                          const QModelIndex &index) const
+{
+    // One request for all four roles: the cell asks for them on every paint.
+    std::array<QModelRoleData, 4> roles{QModelRoleData(Qt::DisplayRole), QModelRoleData(Qt::FontRole),
+                                        QModelRoleData(Qt::ForegroundRole), QModelRoleData(Qt::TextAlignmentRole)};
+    index.multiData(roles);
+    const QVariant &display = roles[0].data();
+    const QVariant &font = roles[1].data();
+    const QVariant &foreground = roles[2].data();
+    const QVariant &alignment = roles[3].data();
+
+    TextStyle style;
+    if (display.isValid())
+        style.text = displayText(display, option.locale);
+    style.font = m_font.value_or(option.font);
+    if (font.isValid())
+        style.font = font.value<QFont>().resolve(style.font);
+    if (foreground.isValid())
+        style.color = foregroundColor(foreground);
+    else if (m_textColor.isValid())
+        style.color = m_textColor;
+    else
+        style.color = option.palette.color(colorGroup(option), QPalette::Text);
+    style.alignment = alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignLeft | Qt::AlignVCenter;
+    return style;
+}
+
+ZARNAttributedString ZARNTextFieldCell::attributedString(const TextStyle &style) const
+{
+    return ZARNAttributedString(style.text,
+                                {{ZARNFontAttributeName, style.font},
+                                 {ZARNForegroundColorAttributeName, style.color},
+                                 {ZARNParagraphAlignmentAttributeName,
+                                  QVariant::fromValue(style.alignment & Qt::AlignHorizontal_Mask)}});
+}
+
+ZARNAttributedString ZARNTextFieldCell::attributedStringValue(const QStyleOptionViewItem &option,
+                                                              const QModelIndex &index) const
+{
+    return attributedString(textStyle(option, index));
+}
+
+ZARNRect ZARNTextFieldCell::titleRectForBounds(const ZARNRect &bounds) const
+{
+    return bounds;
+}
+
+QSizeF ZARNTextFieldCell::textCellSize(const QString &text, const QFont &font)
+{
+    const brixel::AttributedTextLayout layout(text, font, Qt::black, Qt::AlignLeft);
+    return {layout.width() + 2 * horizontalPadding, layout.height()};
+}
+
+qreal ZARNTextFieldCell::dotsWidth(const QFont &font) const
+{
+    if (m_dotsFont != font) {
+        m_dotsWidth = brixel::AttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
+        m_dotsFont = font;
+    }
+    return m_dotsWidth;
+}
+
+void ZARNTextFieldCell::drawAttributedText(QPainter &painter, const ZARNAttributedString &text, const QRectF &bounds,
+                                           Qt::Alignment alignment) const
+{
+    const brixel::AttributedTextLayout whole(text, 0, false);
+    if (fitsCell(whole.width(), bounds.width())) {
+        placeText(painter, whole, bounds, alignment);
+        return;
+    }
+    const brixel::AttributedTextLayout shortened(TruncateAttributedString(text, float(bounds.width())), 0, false);
+    // Only "..." is left and even that is too wide: the cell shows nothing.
+    if (fitsCell(shortened.width(), bounds.width()))
+        placeText(painter, shortened, bounds, alignment);
+}
+
+void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    if (m_drawsBackground) {
+        painter->fillRect(option.rect, m_backgroundColor.isValid() ? QBrush(m_backgroundColor)
+                                                                   : option.palette.brush(colorGroup(option), QPalette::Base));
+    }
+    const TextStyle style = textStyle(option, index);
+    if (style.text.isEmpty())
+        return;
+    const QRectF bounds = option.rect;
+    const Qt::Alignment vertical = style.alignment & verticalMask;
+    if (option.state & QStyle::State_Selected) {
+        drawAttributedText(*painter, brixel::highlightedCellText(attributedString(style), style.font, ZARNSystemVersion()),
+                           bounds, vertical);
+        return;
+    }
+    // Most cells fit: lay the text out once, plainly, and draw that same layout.
+    const brixel::AttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
+    if (fitsCell(layout.width(), bounds.width()))
+        placeText(*painter, layout, bounds, vertical);
+    else if (fitsCell(dotsWidth(style.font), bounds.width()))
+        drawAttributedText(*painter, attributedString(style), bounds, vertical);
+}
+
+QSize ZARNTextFieldCell::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    if (const QVariant hint = index.data(Qt::SizeHintRole); hint.isValid())
+        return hint.toSize();
+    const TextStyle style = textStyle(option, index);
+    const QSizeF size = textCellSize(style.text, style.font);
+    return {int(std::ceil(size.width())), int(std::ceil(size.height()))};
+}
+
+void ZARNTextFieldCell::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->features &= ~QStyleOptionViewItem::HasDecoration;
+    option->icon = QIcon();
+    option->decorationSize = QSize();
+}
+
+void ZARNTextFieldCell::copyTextSettingsTo(ZARNTextFieldCell &cell) const
+{
+    cell.m_textColor = m_textColor;
+    cell.m_backgroundColor = m_backgroundColor;
+    cell.m_font = m_font;
+    cell.m_drawsBackground = m_drawsBackground;
+}
+
+ZARNTextFieldCell *ZARNTextFieldCell::copy(QObject *parent) const
+{
+    auto *cell = new ZARNTextFieldCell(parent);
+    copyTextSettingsTo(*cell);
+    return cell;
+}
+
+ZARNAttributedString brixel::highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
+                                                 quint32 systemVersion)
+{
+    if (text.isEmpty())
+        return text;
+    ZARNAttributedString copy = text;
+    const ZARNRange whole{0, copy.length()};
+    const QVariant shadow = QVariant::fromValue(ZARNTableView::standardShadow());
+    const QColor white(Qt::white);
+    if (systemVersion < 0x1040) {
+        replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
+        copy.addAttribute(ZARNShadowAttributeName, shadow, whole);
+        return copy;
+    }
+    copy.addAttribute(ZARNShadowAttributeName, shadow, whole);
+    const QVariant font = attribute(copy, ZARNFontAttributeName);
+    QFont bold = font.isValid() ? font.value<QFont>() : cellFont;
+    bold.setBold(true);
+    copy.addAttribute(ZARNFontAttributeName, bold, whole);
+    replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
+    return copy;
+}

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <Brixel/ZARNAttributedString.h>
+#include <Brixel/ZARNRect.h>
+#include <Brixel/brixel_export.h>
+
+#include <QColor>
+#include <QFont>
+#include <QStyledItemDelegate>
+
+#include <optional>
+
+/**
+ * A plain text cell for table and outline views: the model's text on one line, centred
+ * vertically with 2 points of padding at either side, shortened with a trailing "..." when it
+ * is too wide, over an optional background fill.
+ *
+ * The text is the model's Qt::DisplayRole (shown as QStyledItemDelegate::displayText() shows
+ * it). Qt::FontRole, Qt::ForegroundRole and Qt::TextAlignmentRole are honoured where the model
+ * gives them; where it does not, the cell's own font() and textColor() apply when they are
+ * set, and the view's font and text colour otherwise. The horizontal alignment defaults to
+ * left; the text is centred vertically unless the model asks for top or bottom.
+ *
+ * Text that measures more than the cell's width minus 4 points is shortened with
+ * TruncateAttributedString(); a cell too narrow even for "..." draws no text.
+ *
+ * QStyle::State_Selected in the option means "draw the contents highlighted": the text is
+ * restyled with brixel::highlightedCellText() (white, with the table's standard shadow, bold
+ * on newer systems). The cell never paints a selection background; the view draws the
+ * selection shape under its cells.
+ *
+ * \code
+ * auto *cell = new ZARNTextFieldCell(table);
+ * cell->setDrawsBackground(true);
+ * cell->setBackgroundColor(Qt::yellow);
+ * table->setItemDelegateForColumn(2, cell);
+ * \endcode
+ *
+ * Editing uses QStyledItemDelegate's editors (a QLineEdit for text).
+ */
+class BRIXEL_EXPORT ZARNTextFieldCell : public QStyledItemDelegate
+{
+    Q_OBJECT
+public:
+    /// The space kept free at either side of the text, in points.
+    static constexpr qreal horizontalPadding = 2.0;
+
+    explicit ZARNTextFieldCell(QObject *parent = nullptr);
+    ~ZARNTextFieldCell() override;
+
+    /// The colour of text the model gives no colour for; invalid (the default) means the view
+    /// palette's text colour.
+    QColor textColor() const { return m_textColor; }
+    void setTextColor(const QColor &color) { m_textColor = color; }
+
+    /// The colour drawsBackground() fills the cell with; invalid (the default) means the view
+    /// palette's base colour.
+    QColor backgroundColor() const { return m_backgroundColor; }
+    void setBackgroundColor(const QColor &color) { m_backgroundColor = color; }
+
+    /// Whether the cell fills its rectangle with backgroundColor() before drawing; false by
+    /// default, letting the view's background and selection show through.
+    bool drawsBackground() const { return m_drawsBackground; }
+    void setDrawsBackground(bool draws) { m_drawsBackground = draws; }
+
+    /// The font of text the model gives no font for. Until setFont() is called, the view's
+    /// font is used and font() answers the application's default font.
+    QFont font() const { return m_font.value_or(QFont()); }
+    void setFont(const QFont &font) { m_font = font; }
+
+    /**
+     * The text this cell shows for \a index, with the font, foreground colour and horizontal
+     * paragraph alignment it is drawn in on every character (before any restyling for a
+     * selected row or shortening).
+     */
+    ZARNAttributedString attributedStringValue(const QStyleOptionViewItem &option, const QModelIndex &index) const;
+
+    /// The part of \a bounds that holds the text: all of it, as the padding is applied when the
+    /// text is drawn. Subclasses that draw more than text give less.
+    virtual ZARNRect titleRectForBounds(const ZARNRect &bounds) const;
+
+    /// The size \a text needs in \a font: its width plus the padding at both sides, and its
+    /// height. Empty text is as high as one line of the font.
+    static QSizeF textCellSize(const QString &text, const QFont &font);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+    /// The model's Qt::SizeHintRole when it gives one, otherwise textCellSize() of the cell's
+    /// text in its font, rounded up to whole pixels.
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+    /// A new cell with the same colours, background setting and font, owned by \a parent.
+    virtual ZARNTextFieldCell *copy(QObject *parent = nullptr) const;
+
+protected:
+    /// QStyledItemDelegate's option without the decoration, which a text cell does not draw,
+    /// so that the editor does not leave room for it.
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
+    /// Gives \a cell this cell's colours, background setting and font.
+    void copyTextSettingsTo(ZARNTextFieldCell &cell) const;
+
+private:
+    struct TextStyle
+    {
+        QString text;
+        QFont font;
+        QColor color;
+        Qt::Alignment alignment;
+    };
+
+    TextStyle textStyle(const QStyleOptionViewItem &option, const QModelIndex &index) const;
+    ZARNAttributedString attributedString(const TextStyle &style) const;
+    void drawAttributedText(QPainter &painter, const ZARNAttributedString &text, const QRectF &bounds,
+                            Qt::Alignment alignment) const;
+    qreal dotsWidth(const QFont &font) const;
+
+    QColor m_textColor;
+    QColor m_backgroundColor;
+    std::optional<QFont> m_font;
+    bool m_drawsBackground = false;
+
+    // The width of "..." for the last font asked about: cells too narrow for it skip the
+    // shortening altogether, and a column's cells usually share one font.
+    mutable std::optional<QFont> m_dotsFont;
+    mutable qreal m_dotsWidth = 0;
+};
+
+namespace brixel {
+
+/**
+ * \a text restyled for a selected row, on a copy:
+ * - \a systemVersion below 0x1040: white foreground on every character that has attributes
+ *   (see replaceAttribute()), then ZARNTableView::standardShadow() on every character;
+ * - 0x1040 and later: the standard shadow on every character, then the bold form of the font
+ *   at the first character (or of \a cellFont when that character has none) on every
+ *   character, then white foreground on every character.
+ *
+ * Empty text is returned as it is.
+ *
+ * \code
+ * const ZARNAttributedString shown = brixel::highlightedCellText(value, cell->font(), ZARNSystemVersion());
+ * \endcode
+ */
+BRIXEL_EXPORT ZARNAttributedString highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
+                                                       quint32 systemVersion);
+
+} // namespace brixel

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNHighlightGradient.h>
+
+#include <BrixelTest.h>
+
+#include <QTest>
+
+#include <climits>
+#include <cmath>
+#include <limits>
+
+using brixel::HighlightGradientCache;
+
+namespace {
+
+const QColor highlight = QColor::fromRgbF(0.2f, 0.4f, 0.8f);
+constexpr qreal notANumber = std::numeric_limits<qreal>::quiet_NaN();
+
+QColor rgb(float red, float green, float blue, float alpha = 1.0f)
+{
+    return QColor::fromRgbF(red, green, blue, alpha);
+}
+
+} // namespace
+
+class TestHighlightGradient : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void rebuilds_data();
+    void rebuilds();
+    void invalidateTakesTheNewColour();
+    void colours_data();
+    void colours();
+};
+
+void TestHighlightGradient::rebuilds_data()
+{
+    QTest::addColumn<QList<qreal>>("rowHeights");
+    QTest::addColumn<int>("rebuilds");
+    QTest::addColumn<int>("lastRowHeight");
+    QTest::addColumn<int>("imageHeight");
+
+    QTest::newRow("same height is made once") << QList<qreal>{18, 18, 18} << 1 << 18 << 18;
+    QTest::newRow("each change rebuilds") << QList<qreal>{18, 20, 18} << 3 << 18 << 18;
+    QTest::newRow("fractional height rebuilds every time") << QList<qreal>{17.5, 17.5, 17.5} << 3 << 17 << 18;
+    // The stored height is truncated, so the whole height after it matches.
+    QTest::newRow("whole height after its fraction is reused") << QList<qreal>{17.5, 17} << 1 << 17 << 18;
+    // A new cache's -1 matches no image.
+    QTest::newRow("-1 on a new cache builds") << QList<qreal>{-1} << 1 << -1 << 1;
+    QTest::newRow("NaN never matches") << QList<qreal>{notANumber, notANumber} << 2 << INT_MIN << 1;
+    QTest::newRow("huge: 32-bit minimum, height capped") << QList<qreal>{1e300, 1e300} << 2 << INT_MIN << 4096;
+}
+
+void TestHighlightGradient::rebuilds()
+{
+    QFETCH(QList<qreal>, rowHeights);
+    QFETCH(int, rebuilds);
+    QFETCH(int, lastRowHeight);
+    QFETCH(int, imageHeight);
+    HighlightGradientCache cache;
+    QCOMPARE(cache.lastRowHeight(), -1);
+    QImage image;
+    for (qreal height : rowHeights)
+        image = cache.image(height, highlight);
+    QCOMPARE(cache.rebuildCount(), rebuilds);
+    QCOMPARE(cache.lastRowHeight(), lastRowHeight);
+    QCOMPARE(image.size(), QSize(64, imageHeight));
+}
+
+void TestHighlightGradient::invalidateTakesTheNewColour()
+{
+    HighlightGradientCache cache;
+    const QColor before = cache.image(18, highlight).pixelColor(0, 9);
+    QCOMPARE(cache.image(18, Qt::red).pixelColor(0, 9), before);   // kept: the colour is not compared
+    cache.invalidate();
+    QCOMPARE(cache.lastRowHeight(), -1);
+    const QImage after = cache.image(18, Qt::red);
+    QCOMPARE(cache.rebuildCount(), 2);
+    QCOMPARE(cache.lastRowHeight(), 18);
+    QVERIFY(after.pixelColor(0, 9).red() > 200);
+}
+
+void TestHighlightGradient::colours_data()
+{
+    QTest::addColumn<QColor>("systemHighlight");
+    QTest::addColumn<QColor>("top");
+    QTest::addColumn<QColor>("bottom");
+
+    // HSV (220, 0.75, 0.8): top (220, 0.6, 0.95), bottom (220, 0.85, 0.7).
+    QTest::newRow("lighter at the top, darker at the bottom") << highlight << rgb(0.38f, 0.57f, 0.95f) << rgb(0.105f, 0.3033f, 0.7f);
+    // White cannot get lighter: saturation and brightness stay within 0..1.
+    QTest::newRow("white: components kept within range") << QColor(Qt::white) << rgb(1, 1, 1) << rgb(0.9f, 0.9f, 0.9f);
+    QTest::newRow("alpha carried through") << rgb(0.2f, 0.4f, 0.8f, 0.5f) << rgb(0.38f, 0.57f, 0.95f, 0.5f) << rgb(0.105f, 0.3033f, 0.7f, 0.5f);
+    QTest::newRow("invalid colour: from black") << QColor() << rgb(0.15f, 0.15f, 0.15f) << rgb(0, 0, 0);
+}
+
+// The first and last pixel rows lie half a pixel inside the ends, 1/36 of the way along the
+// axis of an 18-pixel image, hence the tolerance.
+void TestHighlightGradient::colours()
+{
+    QFETCH(QColor, systemHighlight);
+    QFETCH(QColor, top);
+    QFETCH(QColor, bottom);
+    HighlightGradientCache cache;
+    const QImage image = cache.image(18, systemHighlight);
+    for (int x : {0, 63}) {
+        const QColor first = image.pixelColor(x, 0);
+        const QColor last = image.pixelColor(x, 17);
+        QVERIFY2(brixeltest::colorsClose(first, top, 4), qPrintable(first.name(QColor::HexArgb)));
+        QVERIFY2(brixeltest::colorsClose(last, bottom, 4), qPrintable(last.name(QColor::HexArgb)));
+    }
+}
+
+QTEST_MAIN(TestHighlightGradient)
+#include "tst_highlightgradient.moc"

@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNImageAndTextCell.h>
+
+#include <BrixelTest.h>
+
+#include <QLineEdit>
+#include <QPainter>
+#include <QStandardItemModel>
+#include <QTest>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QImage solidImage(QSize size, const QColor &color)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+// Red above, blue below: shows whether an image is drawn upright.
+QImage twoBandImage(QSize size)
+{
+    QImage image = solidImage(size, Qt::blue);
+    QPainter(&image).fillRect(0, 0, size.width(), size.height() / 2, Qt::red);
+    return image;
+}
+
+QStyleOptionViewItem viewOption(const QRect &rect)
+{
+    QStyleOptionViewItem option;
+    option.rect = rect;
+    option.state = QStyle::State_Enabled | QStyle::State_Active;
+    option.palette.setColor(QPalette::Base, Qt::white);
+    return option;
+}
+
+QRect coloured(const QImage &image, const QColor &color)
+{
+    return brixeltest::pixelBounds(image, [&](const QColor &pixel) { return brixeltest::colorsClose(pixel, color, 10); });
+}
+
+} // namespace
+
+class TestImageAndTextCell : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { brixeltest::useTestFont(); }
+    void imageAndTitleRects_data();
+    void imageAndTitleRects();
+    void divideRectFromLeft_data();
+    void divideRectFromLeft();
+    void imageDestination_data();
+    void imageDestination();
+    void drawsTheImageArea_data();
+    void drawsTheImageArea();
+    void sizeAndEditorMakeRoomForTheImage_data();
+    void sizeAndEditorMakeRoomForTheImage();
+    void withoutAnImageDrawsAsATextCell();
+    void defaultsAndCopy();
+};
+
+void TestImageAndTextCell::imageAndTitleRects_data()
+{
+    QTest::addColumn<bool>("hasImage");
+    QTest::addColumn<ZARNRect>("bounds");
+    QTest::addColumn<ZARNSize>("imageSize");
+    QTest::addColumn<ZARNRect>("imageRect");
+    QTest::addColumn<ZARNRect>("titleRect");
+
+    QTest::newRow("even difference") << true << ZARNRect{10, 20, 200, 20} << ZARNSize{16, 16}
+                                     << ZARNRect{12, 22, 16, 16} << ZARNRect{31, 22, 179, 16};
+    QTest::newRow("odd difference rounds up") << true << ZARNRect{0, 0, 100, 19} << ZARNSize{16, 16}
+                                              << ZARNRect{2, 2, 16, 16} << ZARNRect{21, 2, 79, 15};
+    QTest::newRow("fractional") << true << ZARNRect{0.5f, 0.25f, 50, 17.5f} << ZARNSize{12.5f, 12}
+                                << ZARNRect{2.5f, 3.25f, 12.5f, 12} << ZARNRect{18.0f, 2.25f, 32.5f, 13.5f};
+    QTest::newRow("image taller than the bounds") << true << ZARNRect{0, 10, 40, 10} << ZARNSize{20, 16}
+                                                  << ZARNRect{2, 7, 20, 16} << ZARNRect{25, 12, 15, 6};
+    QTest::newRow("no image") << false << ZARNRect{10, 20, 200, 20} << ZARNSize{16, 16} << ZARNRect{}
+                              << ZARNRect{10, 20, 200, 20};
+}
+
+void TestImageAndTextCell::imageAndTitleRects()
+{
+    QFETCH(bool, hasImage);
+    QFETCH(ZARNRect, bounds);
+    QFETCH(ZARNSize, imageSize);
+    QFETCH(ZARNRect, imageRect);
+    QFETCH(ZARNRect, titleRect);
+
+    ZARNImageAndTextCell cell;
+    if (hasImage)
+        cell.setImage(solidImage({4, 4}, Qt::red));
+    cell.setImageSize(imageSize);
+    QCOMPARE(cell.imageRectForBounds(bounds), imageRect);
+    QCOMPARE(cell.titleRectForBounds(bounds), titleRect);
+}
+
+void TestImageAndTextCell::divideRectFromLeft_data()
+{
+    QTest::addColumn<float>("amount");
+    QTest::addColumn<ZARNRect>("slice");
+    QTest::addColumn<ZARNRect>("remainder");
+
+    QTest::newRow("inside") << 18.0f << ZARNRect{10, 5, 18, 20} << ZARNRect{28, 5, 32, 20};
+    QTest::newRow("wider than the rect") << 80.0f << ZARNRect{10, 5, 50, 20} << ZARNRect{60, 5, 0, 20};
+    QTest::newRow("negative") << -3.0f << ZARNRect{10, 5, 0, 20} << ZARNRect{10, 5, 50, 20};
+    QTest::newRow("NaN") << float(qQNaN()) << ZARNRect{10, 5, 0, 20} << ZARNRect{10, 5, 50, 20};
+}
+
+void TestImageAndTextCell::divideRectFromLeft()
+{
+    QFETCH(float, amount);
+    QFETCH(ZARNRect, slice);
+    QFETCH(ZARNRect, remainder);
+    const brixel::RectDivision parts = brixel::divideRectFromLeft({10, 5, 50, 20}, amount);
+    QCOMPARE(parts.slice, slice);
+    QCOMPARE(parts.remainder, remainder);
+}
+
+void TestImageAndTextCell::imageDestination_data()
+{
+    QTest::addColumn<ZARNSize>("imageSize");
+    QTest::addColumn<ZARNRect>("area");
+    QTest::addColumn<int>("scaling");
+    QTest::addColumn<ZARNRect>("expected");
+
+    const ZARNRect area{0, 0, 20, 18};
+    QTest::newRow("proportional, width limits") << ZARNSize{32, 16} << area << 0 << ZARNRect{0, 4, 20, 10};
+    QTest::newRow("proportional enlarges") << ZARNSize{4, 8} << area << 0 << ZARNRect{6, 0, 9, 18};
+    QTest::newRow("other values act as 0") << ZARNSize{32, 16} << area << 7 << ZARNRect{0, 4, 20, 10};
+    QTest::newRow("negative acts as 0") << ZARNSize{32, 16} << area << -1 << ZARNRect{0, 4, 20, 10};
+    QTest::newRow("stretch") << ZARNSize{32, 16} << area << 1 << area;
+    QTest::newRow("unscaled overflows") << ZARNSize{32, 16} << area << 2 << ZARNRect{-6, 1, 32, 16};
+    QTest::newRow("origin snapped, halves to even") << ZARNSize{16, 16} << ZARNRect{0, 0, 21, 19} << 2
+                                                    << ZARNRect{2, 2, 16, 16};
+    QTest::newRow("size kept fractional") << ZARNSize{10, 10} << ZARNRect{0.25f, 0, 15, 15} << 0
+                                          << ZARNRect{0, 0, 15, 15};
+    QTest::newRow("empty area") << ZARNSize{10, 10} << ZARNRect{5, 5, 0, 18} << 0 << ZARNRect{5, 14, 0, 0};
+}
+
+void TestImageAndTextCell::imageDestination()
+{
+    QFETCH(ZARNSize, imageSize);
+    QFETCH(ZARNRect, area);
+    QFETCH(int, scaling);
+    QFETCH(ZARNRect, expected);
+    QCOMPARE(brixel::imageDestination(imageSize, area, scaling), expected);
+}
+
+void TestImageAndTextCell::drawsTheImageArea_data()
+{
+    QTest::addColumn<int>("scaling");
+    QTest::addColumn<QRect>("red");
+    QTest::addColumn<QRect>("blue");
+
+    // The cell is at (10, 10), 100 x 20; the image area is 16 + 2 wide: (10, 10, 18, 20).
+    // An 8 x 4 image, red above blue.
+    QTest::newRow("proportional: 18 x 9 at y 16 (15.5 snapped to even)") << 0 << QRect(10, 16, 18, 4)
+                                                                           << QRect(10, 21, 18, 4);
+    QTest::newRow("stretched over the area") << 1 << QRect(10, 10, 18, 10) << QRect(10, 20, 18, 10);
+    QTest::newRow("unscaled, centred") << 2 << QRect(15, 18, 8, 2) << QRect(15, 20, 8, 2);
+}
+
+void TestImageAndTextCell::drawsTheImageArea()
+{
+    QFETCH(int, scaling);
+    QFETCH(QRect, red);
+    QFETCH(QRect, blue);
+
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem());
+    ZARNImageAndTextCell cell;
+    cell.setImage(twoBandImage({8, 4}));
+    cell.setImageSize({16, 16});
+    cell.setImageScaling(scaling);
+    QImage canvas = solidImage({120, 40}, Qt::white);
+    {
+        QPainter painter(&canvas);
+        cell.paint(&painter, viewOption({10, 10, 100, 20}), model.index(0, 0));
+    }
+    // Smooth scaling blends the edge between the bands; the solid cores are where expected.
+    const QRect drawnRed = coloured(canvas, Qt::red);
+    const QRect drawnBlue = coloured(canvas, Qt::blue);
+    QCOMPARE(drawnRed.left(), red.left());
+    QCOMPARE(drawnRed.right(), red.right());
+    QCOMPARE(drawnRed.top(), red.top());
+    QCOMPARE(drawnBlue.bottom(), blue.bottom());
+    // Upright: red above blue.
+    QCOMPARE_LE(drawnRed.bottom(), drawnBlue.top());
+}
+
+void TestImageAndTextCell::sizeAndEditorMakeRoomForTheImage_data()
+{
+    QTest::addColumn<QImage>("cellImage");
+    QTest::addColumn<QVariant>("decoration");
+    QTest::addColumn<int>("extraWidth");
+    QTest::addColumn<int>("editorShift");
+
+    const QImage tenWide = solidImage({10, 6}, Qt::red);
+    QImage twentyWideHiDpi = solidImage({40, 12}, Qt::red);
+    twentyWideHiDpi.setDevicePixelRatio(2);
+    QTest::newRow("no image") << QImage() << QVariant() << 4 << 3;
+    QTest::newRow("the cell's image, own width") << tenWide << QVariant() << 14 << 13;
+    QTest::newRow("own width in points") << twentyWideHiDpi << QVariant() << 24 << 23;
+    QTest::newRow("the model's image wins") << tenWide << QVariant(solidImage({30, 6}, Qt::blue)) << 34 << 33;
+    QTest::newRow("a pixmap from the model")
+        << QImage() << QVariant(QPixmap::fromImage(solidImage({12, 6}, Qt::blue))) << 16 << 15;
+}
+
+void TestImageAndTextCell::sizeAndEditorMakeRoomForTheImage()
+{
+    QFETCH(QImage, cellImage);
+    QFETCH(QVariant, decoration);
+    QFETCH(int, extraWidth);
+    QFETCH(int, editorShift);
+
+    QStandardItemModel model;
+    auto *item = new QStandardItem(u"Hamburg"_s);
+    if (decoration.isValid())
+        item->setData(decoration, Qt::DecorationRole);
+    model.appendRow(item);
+    auto *plainItem = new QStandardItem(u"Hamburg"_s);
+    model.appendRow(plainItem);
+
+    ZARNImageAndTextCell cell;
+    cell.setImage(cellImage);
+    ZARNTextFieldCell text;
+    const QStyleOptionViewItem option = viewOption({20, 0, 200, 24});
+    const QSize plain = text.sizeHint(option, model.index(1, 0));
+    QCOMPARE(cell.sizeHint(option, model.index(0, 0)), plain + QSize(extraWidth, 0));
+
+    QWidget parent;
+    QLineEdit editor(&parent), expectedEditor(&parent);
+    cell.updateEditorGeometry(&editor, option, model.index(0, 0));
+    text.updateEditorGeometry(&expectedEditor, viewOption(option.rect.adjusted(editorShift, 0, 0, 0)),
+                              model.index(1, 0));
+    QCOMPARE(editor.geometry(), expectedEditor.geometry());
+}
+
+void TestImageAndTextCell::withoutAnImageDrawsAsATextCell()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(u"Same text"_s));
+    ZARNImageAndTextCell cell;
+    ZARNTextFieldCell text;
+    for (ZARNTextFieldCell *each : {static_cast<ZARNTextFieldCell *>(&cell), &text}) {
+        each->setDrawsBackground(true);
+        each->setBackgroundColor(Qt::yellow);
+    }
+    QImage drawn = solidImage({150, 30}, Qt::white), expected = drawn;
+    {
+        QPainter painter(&drawn);
+        cell.paint(&painter, viewOption({5, 5, 140, 20}), model.index(0, 0));
+    }
+    {
+        QPainter painter(&expected);
+        text.paint(&painter, viewOption({5, 5, 140, 20}), model.index(0, 0));
+    }
+    QCOMPARE(drawn, expected);
+}
+
+void TestImageAndTextCell::defaultsAndCopy()
+{
+    ZARNImageAndTextCell cell;
+    const float side = float(ZARNTextFieldCell::textCellSize(QString(), cell.font()).height() - 4.0);
+    QCOMPARE(cell.imageSize(), (ZARNSize{side, side}));
+    QCOMPARE(cell.imageScaling(), 0);
+    QVERIFY(cell.image().isNull());
+
+    const QImage image = solidImage({5, 5}, Qt::red);
+    cell.setImage(image);
+    cell.setImageScaling(5);
+    cell.setImageSize({7, 9});
+    cell.setTextColor(Qt::green);
+    QObject owner;
+    ZARNImageAndTextCell *copy = cell.copy(&owner);
+    QCOMPARE(copy->parent(), &owner);
+    QCOMPARE(copy->image().cacheKey(), image.cacheKey());
+    QCOMPARE(copy->imageScaling(), 5);
+    QCOMPARE(copy->imageSize(), (ZARNSize{7, 9}));
+    QCOMPARE(copy->textColor(), QColor(Qt::green));
+    // Setting the image leaves the layout size alone.
+    copy->setImage(solidImage({50, 50}, Qt::blue));
+    QCOMPARE(copy->imageSize(), (ZARNSize{7, 9}));
+}
+
+QTEST_MAIN(TestImageAndTextCell)
+#include "tst_imageandtextcell.moc"

@@ -1,0 +1,430 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/NSBezierPath_Category.h>
+#include <Brixel/ZARNRowHighlighting.h>
+
+#include <BrixelTest.h>
+
+#include <QPainter>
+#include <QTest>
+
+#include <climits>
+#include <functional>
+#include <limits>
+
+using namespace brixel;
+
+Q_DECLARE_METATYPE(brixel::DropPosition)
+Q_DECLARE_METATYPE(std::optional<QLineF>)
+
+namespace {
+
+const QColor outline(200, 0, 0);
+const QColor fill(0, 0, 200);
+const QColor gradientTop(0, 255, 0);
+const QColor gradientBottom(255, 255, 0);
+const QColor custom(255, 0, 255);
+const QColor none(Qt::transparent);
+const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
+
+// Two flat halves, so a pixel tells which end of the image it came from.
+QImage twoToneImage()
+{
+    QImage image(64, 18, QImage::Format_ARGB32_Premultiplied);
+    image.fill(gradientTop);
+    QPainter(&image).fillRect(0, 9, 64, 9, gradientBottom);
+    return image;
+}
+
+QImage solidImage(const QColor &colour)
+{
+    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
+    image.fill(colour);
+    return image;
+}
+
+QImage picture(const std::function<void(QPainter &)> &draw)
+{
+    QImage image(120, 30, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    draw(painter);
+    return image;
+}
+
+QColor mix(const QColor &a, const QColor &b)
+{
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+QColor withAlpha(QColor colour, int alpha)
+{
+    colour.setAlpha(alpha);
+    return colour;
+}
+
+using Expectations = QList<std::pair<QPoint, QColor>>;
+
+void verifyPixels(const QImage &image, const Expectations &expectations, int tolerance = 3)
+{
+    for (const auto &[point, expected] : expectations) {
+        const QColor actual = brixeltest::colorAt(image, point);
+        // Fully transparent pixels carry no colour worth comparing.
+        const bool matches = expected.alpha() == 0 ? actual.alpha() <= tolerance
+                                                   : brixeltest::colorsClose(actual, expected, tolerance);
+        QVERIFY2(matches, qPrintable(QStringLiteral("(%1, %2): %3, expected %4")
+                                         .arg(point.x()).arg(point.y())
+                                         .arg(actual.name(QColor::HexArgb), expected.name(QColor::HexArgb))));
+    }
+}
+
+QRectF rowRect(int row)
+{
+    return QRectF(0, 20 * row, 200, 20);
+}
+
+} // namespace
+
+class TestRowHighlighting : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void shapeRect_data();
+    void shapeRect();
+    void shapePath_data();
+    void shapePath();
+    void indentation_data();
+    void indentation();
+    void textCellFrame_data();
+    void textCellFrame();
+    void dropLine_data();
+    void dropLine();
+    void dropPosition_data();
+    void dropPosition();
+    void selectedRow_data();
+    void selectedRow();
+    void sameAsSlowerDrawing_data();
+    void sameAsSlowerDrawing();
+    void drops_data();
+    void drops();
+};
+
+void TestRowHighlighting::init()
+{
+    setBezierPathDefaultLineWidth(1.0f);
+}
+
+void TestRowHighlighting::shapeRect_data()
+{
+    QTest::addColumn<QRectF>("rowRect");
+    QTest::addColumn<bool>("customImage");
+    QTest::addColumn<QRectF>("selection");
+    QTest::addColumn<QRectF>("drop");
+
+    QTest::newRow("inset, then shorter") << QRectF(0, 40, 200, 18) << false << QRectF(0.5, 40.5, 199, 16) << QRectF(1, 41, 198, 15);
+    QTest::newRow("custom image: the row itself") << QRectF(0, 40, 200, 18) << true << QRectF(0, 40, 200, 18) << QRectF(0, 40, 200, 18);
+    QTest::newRow("too small: negative height") << QRectF(0, 0, 10, 1) << false << QRectF(0.5, 0.5, 9, -1) << QRectF(1, 1, 8, -2);
+}
+
+void TestRowHighlighting::shapeRect()
+{
+    QFETCH(QRectF, rowRect);
+    QFETCH(bool, customImage);
+    QFETCH(QRectF, selection);
+    QFETCH(QRectF, drop);
+    QCOMPARE(selectionShapeRect(rowRect, customImage), selection);
+    QCOMPARE(dropHighlightRect(rowRect, customImage), drop);
+}
+
+void TestRowHighlighting::shapePath_data()
+{
+    QTest::addColumn<qreal>("rowHeight");
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<float>("radius");   // 0: a plain rectangle
+
+    // The shape is two less high than its row: 0.5 off the top and bottom, then 1 less.
+    QTest::newRow("capsule, 18-high row: 16-high shape") << qreal(18) << 1u << 8.0f;
+    QTest::newRow("capsule, 19-high row") << qreal(19) << 1u << 8.5f;
+    QTest::newRow("rounded rectangle") << qreal(18) << 2u << 3.2f;
+    QTest::newRow("rectangle") << qreal(18) << 0u << 0.0f;
+    QTest::newRow("unknown style: rectangle") << qreal(18) << 3u << 0.0f;
+}
+
+void TestRowHighlighting::shapePath()
+{
+    QFETCH(qreal, rowHeight);
+    QFETCH(quint32, style);
+    QFETCH(float, radius);
+    const QRectF shape = selectionShapeRect(QRectF(0, 0, 100, rowHeight), false);
+    QCOMPARE(highlightCornerRadius(float(shape.height()), style), radius);
+    QPainterPath expected;
+    if (radius > 0)
+        expected = bezierPathWithRoundedRect(ZARNRect::fromQRectF(shape), radius);
+    else
+        expected.addRect(shape);
+    QCOMPARE(highlightPath(shape, style), expected);
+}
+
+void TestRowHighlighting::indentation_data()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<qreal>("perLevel");
+    QTest::addColumn<bool>("expandable");
+    QTest::addColumn<qreal>("offset");
+
+    QTest::newRow("top level") << 0 << qreal(16) << false << qreal(0);
+    QTest::newRow("expandable child") << 2 << qreal(16) << true << qreal(32);
+    QTest::newRow("leaf child: past the triangle") << 2 << qreal(16) << false << qreal(48);
+    QTest::newRow("product truncated") << 3 << qreal(12.5) << true << qreal(37);
+    QTest::newRow("NaN indentation") << 1 << std::numeric_limits<qreal>::quiet_NaN() << true << qreal(INT_MIN);
+}
+
+void TestRowHighlighting::indentation()
+{
+    QFETCH(int, level);
+    QFETCH(qreal, perLevel);
+    QFETCH(bool, expandable);
+    QFETCH(qreal, offset);
+    QCOMPARE(indentationOffset(level, perLevel, expandable), offset);
+}
+
+void TestRowHighlighting::textCellFrame_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("columnCount");
+    QTest::addColumn<QRect>("frame");
+    QTest::addColumn<QRect>("expected");
+
+    const QRect frame(10, 0, 100, 18);   // inset 18 * 0.25 = 4.5, truncated to 4
+    QTest::newRow("capsule: first column, left") << 1u << 0 << 3 << frame << QRect(14, 0, 96, 18);
+    QTest::newRow("rounded: last column, right") << 2u << 2 << 3 << frame << QRect(10, 0, 96, 18);
+    QTest::newRow("middle column kept") << 1u << 1 << 3 << frame << frame;
+    QTest::newRow("one column: left only") << 1u << 0 << 1 << frame << QRect(14, 0, 96, 18);
+    QTest::newRow("rectangle kept") << 0u << 0 << 3 << frame << frame;
+    QTest::newRow("15 high: inset 3") << 1u << 0 << 2 << QRect(0, 0, 50, 15) << QRect(3, 0, 47, 15);
+}
+
+void TestRowHighlighting::textCellFrame()
+{
+    QFETCH(quint32, style);
+    QFETCH(int, column);
+    QFETCH(int, columnCount);
+    QFETCH(QRect, frame);
+    QFETCH(QRect, expected);
+    QCOMPARE(insetTextCellFrame(frame, style, column, columnCount), expected);
+}
+
+void TestRowHighlighting::dropLine_data()
+{
+    QTest::addColumn<int>("upper");
+    QTest::addColumn<int>("lower");
+    QTest::addColumn<int>("rowCount");
+    QTest::addColumn<std::optional<QLineF>>("line");
+
+    // Rows 20 high and 200 wide from y 0; the view's bounds are 200 x 150; offset 10.
+    QTest::newRow("before the first row: top of the bounds") << -1 << 0 << 5 << std::optional(QLineF(11, 1, 199, 1));
+    QTest::newRow("between rows: top of the lower") << 1 << 2 << 5 << std::optional(QLineF(11, 40, 199, 40));
+    QTest::newRow("after the last row: its inset bottom") << 4 << 5 << 5 << std::optional(QLineF(11, 99, 199, 99));
+    QTest::newRow("empty table: before the first row") << -1 << 0 << 0 << std::optional(QLineF(11, 1, 199, 1));
+    QTest::newRow("same row") << 2 << 2 << 5 << std::optional<QLineF>();
+    QTest::newRow("upper below lower") << 3 << 1 << 5 << std::optional<QLineF>();
+    QTest::newRow("lower past the end") << 3 << 5 << 5 << std::optional<QLineF>();
+    QTest::newRow("before a later row") << -1 << 1 << 5 << std::optional<QLineF>();
+}
+
+void TestRowHighlighting::dropLine()
+{
+    QFETCH(int, upper);
+    QFETCH(int, lower);
+    QFETCH(int, rowCount);
+    QFETCH(std::optional<QLineF>, line);
+    QCOMPARE(dropLineBetweenRows(upper, lower, rowCount, rowRect, QRectF(0, 0, 200, 150), 10), line);
+}
+
+void TestRowHighlighting::dropPosition_data()
+{
+    QTest::addColumn<QRect>("rowRect");
+    QTest::addColumn<int>("y");
+    QTest::addColumn<bool>("accepts");
+    QTest::addColumn<DropPosition>("position");
+
+    const QRect row(0, 100, 200, 24);   // margin round(24 / 5.5) = 4; bottom pixel 123
+    QTest::newRow("inside the top margin") << row << 103 << true << DropPosition::AboveRow;
+    QTest::newRow("past the top margin") << row << 104 << true << DropPosition::OnRow;
+    QTest::newRow("inside the bottom margin") << row << 120 << true << DropPosition::BelowRow;
+    QTest::newRow("above the row") << row << 50 << true << DropPosition::AboveRow;
+    QTest::newRow("below the row") << row << 300 << true << DropPosition::BelowRow;
+    QTest::newRow("refusing row: upper half") << row << 110 << false << DropPosition::AboveRow;
+    QTest::newRow("refusing row: from the centre down") << row << 111 << false << DropPosition::BelowRow;
+    QTest::newRow("tall row: margin at most 12") << QRect(0, 0, 200, 100) << 12 << true << DropPosition::OnRow;
+    QTest::newRow("short row: margin at least 2") << QRect(0, 0, 200, 8) << 1 << true << DropPosition::AboveRow;
+    QTest::newRow("far away: no overflow") << row << INT_MIN << true << DropPosition::AboveRow;
+}
+
+void TestRowHighlighting::dropPosition()
+{
+    QFETCH(QRect, rowRect);
+    QFETCH(int, y);
+    QFETCH(bool, accepts);
+    QFETCH(DropPosition, position);
+    QCOMPARE(dropPositionInRow(rowRect, y, accepts), position);
+}
+
+void TestRowHighlighting::selectedRow_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<bool>("gradient");
+    QTest::addColumn<bool>("customImage");
+    QTest::addColumn<Expectations>("pixels");
+
+    // The row (10, 6, 100, 18) gives the shape (10.5, 6.5, 99, 16): its outline runs through
+    // the middle of pixel row 6 and column 10, and the fill covers the inner half of those.
+    QTest::newRow("rectangle, flat fill") << 0u << false << false
+        << Expectations{{{60, 14}, fill}, {{60, 6}, mix(outline, fill)}, {{10, 14}, mix(outline, fill)},
+                        {{60, 23}, none}, {{9, 14}, none}, {{60, 5}, none}};
+    QTest::newRow("capsule, gradient") << 1u << true << false
+        << Expectations{{{60, 8}, gradientTop}, {{60, 21}, gradientBottom}, {{60, 6}, mix(outline, gradientTop)},
+                        {{60, 22}, mix(outline, gradientBottom)}, {{10, 6}, none}, {{11, 7}, none}, {{108, 21}, none}};
+    QTest::newRow("rounded rectangle: small corners") << 2u << false << false
+        << Expectations{{{10, 6}, none}, {{13, 9}, fill}, {{60, 14}, fill}};
+    QTest::newRow("custom image: whole row, no outline") << 1u << true << true
+        << Expectations{{{60, 6}, custom}, {{60, 23}, custom}, {{15, 14}, custom}, {{10, 6}, none}};
+}
+
+void TestRowHighlighting::selectedRow()
+{
+    QFETCH(quint32, style);
+    QFETCH(bool, gradient);
+    QFETCH(bool, customImage);
+    QFETCH(Expectations, pixels);
+    const SelectionColors colors{fill, outline, gradient};
+    const QImage image = picture([&](QPainter &painter) {
+        drawRowHighlight(painter, row, style, colors, twoToneImage(), customImage ? solidImage(custom) : QImage());
+        QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));   // state restored
+    });
+    verifyPixels(image, pixels);
+}
+
+void TestRowHighlighting::sameAsSlowerDrawing_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<bool>("outlineRing");   // else the texture fill
+    QTest::newRow("ring of a rectangle") << 0u << true;
+    QTest::newRow("ring of a capsule") << 1u << true;
+    QTest::newRow("ring of a rounded rectangle") << 2u << true;
+    QTest::newRow("texture in a rectangle") << 0u << false;
+    QTest::newRow("texture in a capsule") << 1u << false;
+}
+
+// The outline ring covers the pixels of a mitred 1-wide stroke, measured by stroking four
+// times larger without antialiasing and averaging down (Qt's antialiased stroke flattens
+// curves coarsely and leaves unmitred the corner where a rectangle's path closes).
+// The texture fill shows what clipping and drawing the image shows. Qt clips rectangles to
+// whole pixels, so there the texture alone covers the half pixels along the top and left;
+// those take the colour next to them, never that of the opposite edge (textures repeat).
+void TestRowHighlighting::sameAsSlowerDrawing()
+{
+    QFETCH(quint32, style);
+    QFETCH(bool, outlineRing);
+    const QRectF shape = selectionShapeRect(row, false);
+    QPainterPath path = highlightPath(shape, style);
+    QImage gradient(64, 18, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < gradient.height(); ++y)
+        for (int x = 0; x < gradient.width(); ++x)
+            gradient.setPixelColor(x, y, QColor(x, 50 + y * 2, 200 - y * 2));
+    const QImage fast = picture([&](QPainter &painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        if (outlineRing)
+            painter.fillPath(highlightOutlineRing(shape, style, 1.0f), Qt::black);
+        else
+            fillPathWithStretchedImage(painter, path, shape, gradient);
+    });
+    QImage slow(480, 120, QImage::Format_ARGB32_Premultiplied);
+    slow.fill(Qt::transparent);
+    {
+        QPainter painter(&slow);
+        painter.scale(4, 4);
+        if (outlineRing && style == 0) {   // closing halfway along the top edge
+            path = QPainterPath(QPointF(shape.center().x(), shape.top()));
+            for (const QPointF &corner : {shape.topRight(), shape.bottomRight(), shape.bottomLeft(), shape.topLeft()})
+                path.lineTo(corner);
+            path.closeSubpath();
+        }
+        if (outlineRing) {
+            painter.strokePath(path, QPen(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        } else {
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setClipPath(path);
+            painter.drawImage(shape, gradient, gradient.rect());
+        }
+    }
+    slow = slow.scaled(120, 30, Qt::IgnoreAspectRatio, outlineRing ? Qt::SmoothTransformation : Qt::FastTransformation);
+    const QPoint centre = shape.center().toPoint();
+    int compared = 0;
+    for (int y = 0; y < fast.height(); ++y) {
+        for (int x = 0; x < fast.width(); ++x) {
+            const QColor actual = fast.pixelColor(x, y);
+            QPoint from(x, y);
+            if (!outlineRing && slow.pixelColor(from).alpha() == 0)
+                from += QPoint(x < centre.x() ? 1 : 0, y < centre.y() ? 1 : 0);
+            QColor expected = slow.pixelColor(from);
+            if (outlineRing) {
+                // 16 samples a pixel leave some error along curves.
+                QVERIFY2(qAbs(actual.alpha() - expected.alpha()) <= 40, qPrintable(QStringLiteral("(%1, %2)").arg(x).arg(y)));
+                compared += actual.alpha() > 128;
+            } else if (actual.alpha() >= 48 && expected.alpha() >= 48) {   // faint colours are too coarse
+                expected.setAlpha(actual.alpha());
+                QVERIFY2(brixeltest::colorsClose(actual, expected, 4), qPrintable(QStringLiteral("(%1, %2)").arg(x).arg(y)));
+                ++compared;
+            }
+        }
+    }
+    QVERIFY(compared > 200);
+}
+
+void TestRowHighlighting::drops_data()
+{
+    QTest::addColumn<int>("kind");   // 0: on the view, 1: unselected row, 2: selected row, 3: marker
+    QTest::addColumn<Expectations>("pixels");
+
+    const QColor frame = withAlpha(outline, 230);   // alpha 0.9
+    // The view's frame: 2 pixels just inside the bounds (0, 0, 120, 30).
+    QTest::newRow("on the view") << 0
+        << Expectations{{{0, 0}, frame}, {{1, 15}, frame}, {{2, 15}, none}, {{119, 29}, frame}, {{60, 28}, frame}, {{60, 27}, none}};
+    // The row's drop rectangle (11, 7, 98, 15), outlined 2 wide around its edge.
+    QTest::newRow("unselected row: faint fill, outline at 0.9") << 1
+        << Expectations{{{60, 14}, withAlpha(fill, 38)}, {{60, 6}, frame}, {{60, 4}, none}, {{10, 14}, frame}};
+    QTest::newRow("selected row: outline only") << 2
+        << Expectations{{{60, 14}, none}, {{60, 6}, outline}, {{60, 7}, outline}, {{60, 8}, none}};
+    // Line (20, 15) to (110, 15): the circle (14, 12, 6, 6) ends at its start.
+    QTest::newRow("marker between rows") << 3
+        << Expectations{{{17, 15}, Qt::white}, {{14, 15}, outline}, {{60, 14}, outline}, {{60, 15}, outline},
+                        {{60, 13}, none}, {{60, 16}, none}, {{109, 15}, outline}, {{110, 15}, none}};
+}
+
+void TestRowHighlighting::drops()
+{
+    QFETCH(int, kind);
+    QFETCH(Expectations, pixels);
+    const SelectionColors colors{fill, outline, true};
+    const QImage image = picture([&](QPainter &painter) {
+        switch (kind) {
+        case 0:
+            drawDropHighlightOnView(painter, QRectF(0, 0, 120, 30), colors);
+            break;
+        case 1:
+        case 2:
+            drawDropHighlightOnRow(painter, dropHighlightRect(row, false), kind == 2, colors);
+            break;
+        default:
+            drawDropMarker(painter, QLineF(20, 15, 110, 15), colors);
+        }
+    });
+    verifyPixels(image, pixels);
+    // Drawing a row or a marker leaves the default line width at 2.
+    QCOMPARE(bezierPathDefaultLineWidth(), kind == 0 ? 1.0f : 2.0f);
+}
+
+QTEST_MAIN(TestRowHighlighting)
+#include "tst_rowhighlighting.moc"

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNNSTableViewSelectionColorAdditions.h>
+
+#include <BrixelTest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+
+const QColor highlight = QColor::fromRgbF(0.2f, 0.4f, 0.8f);
+const QColor grey70 = QColor::fromRgbF(0.7f, 0.7f, 0.7f);
+
+QColor rgb(float red, float green, float blue, float alpha = 1.0f)
+{
+    return QColor::fromRgbF(red, green, blue, alpha);
+}
+
+QString describe(const QColor &colour)
+{
+    return colour.name(QColor::HexArgb);
+}
+
+enum class Focus { View, EditorInView, OtherWidget, OtherWindow };
+
+// A window with a line edit and a table whose palette has distinct active and inactive
+// highlight colours, and a second window to take the activation away.
+struct Scene
+{
+    Scene()
+    {
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(&lineEdit);
+        layout->addWidget(&view);
+        model.setRowCount(3);
+        model.setColumnCount(2);
+        view.setModel(&model);
+        QPalette palette = view.palette();
+        palette.setColor(QPalette::Active, QPalette::Highlight, highlight);
+        palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::red);
+        palette.setColor(QPalette::Disabled, QPalette::Highlight, Qt::green);
+        view.setPalette(palette);
+        window.resize(300, 200);
+        otherWindow.resize(100, 100);
+    }
+
+    bool bringAbout(Focus focus)
+    {
+        window.show();
+        window.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window))
+            return false;
+        switch (focus) {
+        case Focus::View:
+            view.setFocus();
+            return QTest::qWaitFor([this] { return view.hasFocus(); });
+        case Focus::EditorInView:
+            view.edit(model.index(1, 1));
+            return QTest::qWaitFor([this] {
+                const QWidget *focus = QApplication::focusWidget();
+                return focus && focus != &view && view.isAncestorOf(focus);
+            });
+        case Focus::OtherWidget:
+            lineEdit.setFocus();
+            return QTest::qWaitFor([this] { return lineEdit.hasFocus(); });
+        case Focus::OtherWindow:
+            view.setFocus();
+            otherWindow.show();
+            otherWindow.activateWindow();
+            return QTest::qWaitForWindowActive(&otherWindow) && !window.isActiveWindow();
+        }
+        return false;
+    }
+
+    QWidget window;
+    QLineEdit lineEdit;
+    QTableView view;
+    QStandardItemModel model;
+    QWidget otherWindow;
+};
+
+} // namespace
+
+class TestSelectionColors : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void colourRule_data();
+    void colourRule();
+    void views_data();
+    void views();
+    void nullView();
+};
+
+void TestSelectionColors::colourRule_data()
+{
+    QTest::addColumn<QColor>("systemHighlight");
+    QTest::addColumn<bool>("focused");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QColor>("expected");
+    QTest::addColumn<QColor>("outline");   // value times 0.8, opaque
+
+    QTest::newRow("focused: the highlight colour") << highlight << true << true << highlight << rgb(0.16f, 0.32f, 0.64f);
+    QTest::newRow("background: grey 0.7") << highlight << false << true << grey70 << rgb(0.56f, 0.56f, 0.56f);
+    QTest::newRow("invalid highlight: black") << QColor() << true << true << QColor(Qt::black) << QColor(Qt::black);
+    // HSV (220, 0.75, 0.8) -> (220, 0.225, 0.8) = RGB (0.62, 0.68, 0.8) -> luminance 0.67574.
+    QTest::newRow("disabled: desaturated, then its luminance") << highlight << true << false
+                                                               << rgb(0.67574f, 0.67574f, 0.67574f) << rgb(0.5406f, 0.5406f, 0.5406f);
+    // (0, 1, 1) -> (0, 0.3, 1) = (1, 0.7, 0.7): luminance weights 0.299, 0.587, 0.114.
+    QTest::newRow("disabled keeps alpha; outline opaque") << rgb(1, 0, 0, 0.5f) << true << false
+                                                          << rgb(0.7897f, 0.7897f, 0.7897f, 0.5f) << rgb(0.6318f, 0.6318f, 0.6318f);
+}
+
+void TestSelectionColors::colourRule()
+{
+    QFETCH(QColor, systemHighlight);
+    QFETCH(bool, focused);
+    QFETCH(bool, enabled);
+    QFETCH(QColor, expected);
+    QFETCH(QColor, outline);
+    const QColor actual = brixel::selectionColor(systemHighlight, focused, enabled);
+    QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
+    const QColor actualOutline = brixel::selectionOutlineColor(actual);
+    QVERIFY2(brixeltest::colorsClose(actualOutline, outline, 1), qPrintable(describe(actualOutline)));
+}
+
+void TestSelectionColors::views_data()
+{
+    QTest::addColumn<Focus>("focus");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QColor>("expected");
+    QTest::addColumn<bool>("gradient");
+
+    // The active highlight is used even though the palette's inactive and disabled groups
+    // have colours of their own.
+    QTest::newRow("focused view in the active window") << Focus::View << true << highlight << true;
+    QTest::newRow("editor inside the view has the focus") << Focus::EditorInView << true << highlight << true;
+    QTest::newRow("another widget has the focus") << Focus::OtherWidget << true << grey70 << false;
+    QTest::newRow("another window is active") << Focus::OtherWindow << true << grey70 << false;
+    QTest::newRow("disabled view") << Focus::View << false << grey70 << false;
+}
+
+void TestSelectionColors::views()
+{
+    QFETCH(Focus, focus);
+    QFETCH(bool, enabled);
+    QFETCH(QColor, expected);
+    QFETCH(bool, gradient);
+    Scene scene;
+    QVERIFY(scene.bringAbout(focus));
+    scene.view.setEnabled(enabled);
+
+    const QColor actual = selectionColor(&scene.view);
+    QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
+    const QColor outline = selectionOutlineColor(&scene.view);
+    QVERIFY2(brixeltest::colorsClose(outline, brixel::selectionOutlineColor(expected), 1), qPrintable(describe(outline)));
+    QCOMPARE(selectionShouldDrawGradient(&scene.view), gradient);
+}
+
+void TestSelectionColors::nullView()
+{
+    QVERIFY(brixeltest::colorsClose(selectionColor(nullptr), grey70, 1));
+    QVERIFY(brixeltest::colorsClose(selectionOutlineColor(nullptr), rgb(0.56f, 0.56f, 0.56f), 1));
+    QVERIFY(!selectionShouldDrawGradient(nullptr));
+}
+
+QTEST_MAIN(TestSelectionColors)
+#include "tst_selectioncolors.moc"
