@@ -2,6 +2,10 @@
 #include "ZARNTableView.h"
 
 #include "ZARNEditingMoves.h"
+#include "ZARNHighlightGradient.h"
+#include "ZARNNSTableHeaderView.h"
+#include "ZARNTableColumn.h"
+#include "ZARNTableColumnList.h"
 #include "ZARNTableViewDataSource.h"
 #include "ZARNTableViewDelegate.h"
 
@@ -43,23 +47,10 @@ public:
     {
     }
 
-    /// The model columns shown, in the order the header shows them.
-    QList<int> shownModelColumns() const
-    {
-        const QHeaderView *header = q->horizontalHeader();
-        QList<int> columns;
-        for (int visual = 0; visual < header->count(); ++visual) {
-            const int logical = header->logicalIndex(visual);
-            if (!header->isSectionHidden(logical))
-                columns.append(logical);
-        }
-        return columns;
-    }
-
     /// The table cell of a model index; nullopt when its column is hidden.
     std::optional<brixel::Cell> cellForIndex(const QModelIndex &index) const
     {
-        const int column = int(shownModelColumns().indexOf(index.column()));
+        const int column = columns->columnIndex(columns->columnForModelColumn(index.column()));
         if (column < 0)
             return std::nullopt;
         return brixel::Cell{index.row(), column};
@@ -68,15 +59,10 @@ public:
     /// The model index of a table cell; invalid outside the table.
     QModelIndex indexForCell(brixel::Cell cell) const
     {
-        const QList<int> columns = shownModelColumns();
-        if (cell.column < 0 || cell.column >= columns.size())
+        const ZARNTableColumn *column = columns->columnAt(cell.column);
+        if (!column || !q->model())
             return {};
-        return q->model()->index(cell.row, columns.at(cell.column), q->rootIndex());
-    }
-
-    bool cellIsEditable(brixel::Cell cell) const
-    {
-        return indexForCell(cell).flags().testFlag(Qt::ItemIsEditable);
+        return q->model()->index(cell.row, column->modelColumn(), q->rootIndex());
     }
 
     /// After a drag moved the selection away: removes the wholly selected rows, or in
@@ -105,6 +91,8 @@ public:
     }
 
     ZARNTableView *const q;
+    std::unique_ptr<brixel::TableColumnList> columns;
+    brixel::HighlightGradientCache gradientCache;
     ZARNTableViewDelegate *delegate = nullptr;
     QPointer<QMenu> menu;
     QMetaObject::Connection menuHidden;
@@ -122,6 +110,10 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     : QTableView(parent)
     , d(std::make_unique<ZARNTableViewPrivate>(this))
 {
+    auto *header = new ZARNNSTableHeaderView(this);
+    setHorizontalHeader(header);
+    d->columns = std::make_unique<brixel::TableColumnList>(this, header);
+    header->setColumnList(d->columns.get());
     setSelectionBehavior(SelectRows);
     d->liveResizeTimer.setSingleShot(true);
     d->liveResizeTimer.setInterval(LiveResizeSettleInterval);
@@ -248,7 +240,71 @@ void ZARNTableView::deleteBackward()
 
 void ZARNTableView::userDefaultsDidChange()
 {
+    d->gradientCache.invalidate();
     viewport()->update();
+}
+
+QImage ZARNTableView::highlightGradientImage()
+{
+    return d->gradientCache.image(verticalHeader()->defaultSectionSize(),
+                                  palette().color(QPalette::Active, QPalette::Highlight));
+}
+
+QList<ZARNTableColumn *> ZARNTableView::tableColumns() const
+{
+    return d->columns->tableColumns();
+}
+
+int ZARNTableView::numberOfColumns() const
+{
+    return d->columns->numberOfColumns();
+}
+
+int ZARNTableView::columnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->columnWithIdentifier(identifier);
+}
+
+ZARNTableColumn *ZARNTableView::tableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->tableColumnWithIdentifier(identifier);
+}
+
+void ZARNTableView::hideColumn(int index)
+{
+    d->columns->hideColumn(index);
+}
+
+void ZARNTableView::hideColumnWithIdentifier(const QString &identifier)
+{
+    d->columns->hideColumnWithIdentifier(identifier);
+}
+
+ZARNTableColumn *ZARNTableView::hiddenTableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->hiddenTableColumnWithIdentifier(identifier);
+}
+
+void ZARNTableView::showColumnWithIdentifier(const QString &identifier)
+{
+    d->columns->showColumnWithIdentifier(identifier);
+}
+
+QList<ZARNTableColumn *> ZARNTableView::hiddenTableColumns() const
+{
+    return d->columns->hiddenTableColumns();
+}
+
+bool ZARNTableView::isEditableAtColumn(int column, int row)
+{
+    ZARNTableColumn *tableColumn = d->columns->columnAt(column);
+    // The delegate may open cells of read-only columns and close editable ones.
+    if (d->delegate) {
+        if (const std::optional<bool> answer = d->delegate->tableViewShouldEditTableColumn(this, tableColumn, row))
+            return *answer;
+    }
+    return tableColumn && tableColumn->isEditable()
+        && d->indexForCell({row, column}).flags().testFlag(Qt::ItemIsEditable);
 }
 
 void ZARNTableView::keyPressEvent(QKeyEvent *event)
@@ -389,9 +445,8 @@ void ZARNTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditH
         : std::nullopt;
     std::optional<brixel::Cell> target;
     if (from) {
-        target = brixel::nextEditableCell(movement, *from, model()->rowCount(rootIndex()),
-                                          int(d->shownModelColumns().size()),
-                                          [this](brixel::Cell cell) { return d->cellIsEditable(cell); });
+        target = brixel::nextEditableCell(movement, *from, model()->rowCount(rootIndex()), numberOfColumns(),
+                                          [this](brixel::Cell cell) { return isEditableAtColumn(cell.column, cell.row); });
     }
     if (!target) {
         QTableView::closeEditor(editor, hint);

@@ -12,6 +12,7 @@
 
 class QDrag;
 class QMenu;
+class ZARNTableColumn;
 class ZARNTableViewDelegate;
 
 /**
@@ -29,6 +30,10 @@ class ZARNTableViewDelegate;
  * - Typing letters does not select rows by their text.
  * While a cell is being edited, Tab, Backtab (Shift+Tab) and Return commit the text and open
  * the next editable cell: see closeEditor().
+ *
+ * Columns are ZARNTableColumn objects, one per model column; the table's columns
+ * (tableColumns(), numberOfColumns() and every column index below) are the shown ones, left
+ * to right. The horizontal header is a ZARNNSTableHeaderView.
  *
  * A right click (or a Control-click, Qt::MetaModifier) applies the context-click selection
  * rule described at ZARNTableViewDataSource::respondsToTableviewShouldSelectRow() and pops up
@@ -109,6 +114,46 @@ public:
     /// viewDidEndLiveResize() runs; false when there is no QApplication.
     bool inLiveResize() const;
 
+    /// The shown columns, left to right.
+    QList<ZARNTableColumn *> tableColumns() const;
+    int numberOfColumns() const;
+
+    /// The index of the first shown column whose identifier is \a identifier, or -1.
+    int columnWithIdentifier(const QString &identifier) const;
+    /// The first shown column whose identifier is \a identifier, or null.
+    ZARNTableColumn *tableColumnWithIdentifier(const QString &identifier) const;
+
+    /**
+     * Hides the shown column at \a index (dropping its sort indicator) and keeps it for
+     * showColumnWithIdentifier(); an index outside 0 .. numberOfColumns() - 1 does nothing.
+     * Unlike QTableView::hideColumn(), which it hides, \a index counts shown columns.
+     */
+    void hideColumn(int index);
+    /// hideColumn() of columnWithIdentifier(); an unknown identifier does nothing.
+    void hideColumnWithIdentifier(const QString &identifier);
+    /// The first hidden column (in hiding order) with \a identifier; null for a null
+    /// identifier or when none matches.
+    ZARNTableColumn *hiddenTableColumnWithIdentifier(const QString &identifier) const;
+    /// Shows hiddenTableColumnWithIdentifier() again as the rightmost column, without its
+    /// former place or sort indicator; an identifier no hidden column has does nothing.
+    void showColumnWithIdentifier(const QString &identifier);
+    /// The columns hidden by hideColumn(), in hiding order.
+    QList<ZARNTableColumn *> hiddenTableColumns() const;
+
+    /**
+     * Whether the cell at shown column \a column and \a row may be edited. When the delegate
+     * answers tableViewShouldEditTableColumn() (with a null column for an index out of
+     * range), its answer decides, even against a read-only column. Otherwise the column must
+     * be editable and the model must flag the cell Qt::ItemIsEditable, since Qt cannot edit a
+     * cell its model keeps read-only (a delegate's yes for such a cell ends editing instead
+     * of opening it). Out-of-range cells are not editable.
+     */
+    bool isEditableAtColumn(int column, int row);
+
+    /// The gradient that fills selected rows, for the current row height and the palette's
+    /// highlight colour; made once per row height (see brixel::HighlightGradientCache).
+    QImage highlightGradientImage();
+
     /// Does nothing: this table has no selection by typing.
     void keyboardSearch(const QString &search) override;
 
@@ -119,7 +164,7 @@ public Q_SLOTS:
     void deleteBackward();
 
     /// Runs when the application becomes active: the system highlight colour may have
-    /// changed, so the selection is repainted with the current one.
+    /// changed, so the selection gradient is made again and the rows repainted.
     void userDefaultsDidChange();
 
 Q_SIGNALS:

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNNSTableHeaderView.h>
+#include <Brixel/ZARNTableColumn.h>
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTableViewDataSource.h>
 #include <Brixel/ZARNTableViewDelegate.h>
@@ -63,7 +65,7 @@ public:
     QList<int> editableRows;
 };
 
-/// A model whose items read "r<row>c<column>" and that can answer the context-click question.
+/// A model whose items read "r<row>c<column>", with columns named A, B, C.., and that can answer the context-click question.
 class DataSourceModel : public QStandardItemModel, public ZARNTableViewDataSource
 {
 public:
@@ -73,6 +75,8 @@ public:
         for (int row = 0; row < rows; ++row)
             for (int column = 0; column < columns; ++column)
                 setItem(row, column, new QStandardItem(u"r%1c%2"_s.arg(row).arg(column)));
+        for (int column = 0; column < columns; ++column)
+            setHorizontalHeaderItem(column, new QStandardItem(QString(QChar(u'A' + column))));
     }
     bool respondsToTableviewShouldSelectRow() const override { return responds; }
     std::optional<bool> tableViewShouldSelectRow(ZARNTableView *, int row) override
@@ -181,6 +185,8 @@ private Q_SLOTS:
     void dragPicture_data();
     void dragPicture();
     void liveResize();
+    void gradientFollowsActivation();
+    void worksWithoutModel();
 };
 
 void TestTableView::keys_data()
@@ -404,6 +410,29 @@ void TestTableView::editingMoves_data()
     QTest::newRow("tab: skips hidden columns")
         << tab << Point{1, 0} << Setup([](TestView &view, DataSourceModel &, RecordingDelegate &) { view.setColumnHidden(1, true); })
         << "(1, 2)" << true << QStringList{u"(1, 1) from (1, 0)"_s};
+    QTest::newRow("tab: skips columns hidden by identifier, in their new order")
+        << tab << Point{1, 2}
+        << Setup([](TestView &view, DataSourceModel &, RecordingDelegate &) {
+               view.hideColumnWithIdentifier(u"A"_s);
+               view.showColumnWithIdentifier(u"A"_s); // now B, C, A
+               view.hideColumnWithIdentifier(u"B"_s); // C, A
+           })
+        << "(1, 0)" << true << QStringList{u"(1, 1) from (1, 0)"_s};
+    QTest::newRow("tab: skips read-only columns")
+        << tab << Point{1, 2}
+        << Setup([](TestView &view, DataSourceModel &, RecordingDelegate &) { view.tableColumns().at(0)->setEditable(false); })
+        << "(2, 1)" << true << QStringList{u"(2, 1) from (1, 2)"_s};
+    QTest::newRow("tab: the delegate decides which rows")
+        << tab << Point{1, 1}
+        << Setup([](TestView &, DataSourceModel &, RecordingDelegate &delegate) { delegate.editableRows = {3}; })
+        << "(3, 0)" << true << QStringList{u"(3, 0) from (1, 1)"_s};
+    QTest::newRow("tab: the delegate opens a read-only column")
+        << tab << Point{1, 2}
+        << Setup([](TestView &view, DataSourceModel &, RecordingDelegate &delegate) {
+               view.tableColumns().at(0)->setEditable(false);
+               delegate.editableRows = {0, 1, 2, 3};
+           })
+        << "(2, 0)" << true << QStringList{u"(2, 0) from (1, 2)"_s};
     QTest::newRow("tab: delegate redirects") << tab << Point{1, 1} << redirect({3, 0}) << "(3, 0)" << true
                                              << QStringList{u"(1, 2) from (1, 1)"_s};
     QTest::newRow("tab: delegate redirects outside the table") << tab << Point{1, 1} << redirect({9, 0}) << "none" << true
@@ -570,6 +599,53 @@ void TestTableView::liveResize()
     QCOMPARE(view.liveResizeEnds, 0);
     QTRY_COMPARE(view.liveResizeEnds, 1);
     QVERIFY(!view.inLiveResize());
+}
+
+void TestTableView::gradientFollowsActivation()
+{
+    ZARNTableView view;
+    QVERIFY(qobject_cast<ZARNNSTableHeaderView *>(view.horizontalHeader()));
+    const auto useHighlight = [&view](QColor colour) {
+        QPalette palette = view.palette();
+        palette.setColor(QPalette::Active, QPalette::Highlight, colour);
+        view.setPalette(palette);
+    };
+    const auto middleHue = [](const QImage &image) { return image.pixelColor(32, image.height() / 2).hsvHue(); };
+
+    useHighlight(QColor(0, 80, 220));
+    const QImage blue = view.highlightGradientImage();
+    useHighlight(QColor(220, 40, 40));
+    QCOMPARE(view.highlightGradientImage(), blue); // kept until the application comes back
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+    QCOMPARE(view.highlightGradientImage(), blue);
+
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    const QImage red = view.highlightGradientImage();
+    QCOMPARE_NE(middleHue(red), middleHue(blue));
+    QCOMPARE(middleHue(red), QColor(220, 40, 40).hsvHue());
+}
+
+void TestTableView::worksWithoutModel()
+{
+    TestView view;
+    RecordingDelegate delegate;
+    view.setDelegate(&delegate);
+    QMenu menu;
+    view.setMenu(&menu);
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_A})
+        QTest::keyClick(&view, key);
+    QTest::mousePress(view.viewport(), Qt::RightButton, {}, QPoint(5, 5));
+    QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::MetaModifier, QPoint(5, 5));
+    view.startDrag(Qt::MoveAction);
+    view.hideColumn(0);
+    view.showColumnWithIdentifier(u"A"_s);
+
+    QCOMPARE(delegate.returnKeys, 1);
+    QVERIFY(delegate.notifications.isEmpty());
+    QCOMPARE(view.selectedRow(), -1);
+    QCOMPARE(view.numberOfColumns(), 0);
+    QVERIFY(!view.isEditableAtColumn(0, 0));
+    QVERIFY(!view.dragPixmapSize.isValid());
 }
 
 QTEST_MAIN(TestTableView)
