@@ -1,6 +1,27 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTableView.h"
 
+#include "ZARNEditingMoves.h"
+#include "ZARNHighlightGradient.h"
+#include "ZARNNSTableHeaderView.h"
+#include "ZARNTableColumn.h"
+#include "ZARNTableColumnList.h"
+#include "ZARNTableViewDataSource.h"
+#include "ZARNTableViewDelegate.h"
+
+#include <Brixel/ZARNNotification.h>
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDrag>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPointer>
+#include <QTimer>
+
 namespace {
 
 ZARNShadow blackShadowWithAlpha(float alpha)
@@ -8,11 +29,99 @@ ZARNShadow blackShadowWithAlpha(float alpha)
     return ZARNShadow{{0.0f, -1.0f}, 1.0f, QColor::fromRgbF(0.0f, 0.0f, 0.0f, alpha)};
 }
 
+/// The widget that takes the keyboard for \a editor (the end of its focus-proxy chain).
+QWidget *focusTarget(QWidget *editor)
+{
+    while (QWidget *proxy = editor->focusProxy())
+        editor = proxy;
+    return editor;
+}
+
 } // namespace
+
+class ZARNTableViewPrivate
+{
+public:
+    explicit ZARNTableViewPrivate(ZARNTableView *view)
+        : q(view)
+    {
+    }
+
+    /// The table cell of a model index; nullopt when its column is hidden.
+    std::optional<brixel::Cell> cellForIndex(const QModelIndex &index) const
+    {
+        const int column = columns->columnIndex(columns->columnForModelColumn(index.column()));
+        if (column < 0)
+            return std::nullopt;
+        return brixel::Cell{index.row(), column};
+    }
+
+    /// The model index of a table cell; invalid outside the table.
+    QModelIndex indexForCell(brixel::Cell cell) const
+    {
+        const ZARNTableColumn *column = columns->columnAt(cell.column);
+        if (!column || !q->model())
+            return {};
+        return q->model()->index(cell.row, column->modelColumn(), q->rootIndex());
+    }
+
+    /// After a drag moved the selection away: removes the wholly selected rows, or in
+    /// overwrite mode clears every selected cell, as QAbstractItemView does.
+    void removeMovedItems() const
+    {
+        QAbstractItemModel *model = q->model();
+        const QItemSelection selection = q->selectionModel()->selection();
+        if (q->dragDropOverwriteMode()) {
+            const QModelIndexList indexes = selection.indexes();
+            for (const QModelIndex &index : indexes) {
+                QMap<int, QVariant> roles = model->itemData(index);
+                for (QVariant &value : roles)
+                    value = QVariant();
+                model->setItemData(index, roles);
+            }
+            return;
+        }
+        // Bottom ranges first, so that removing rows does not shift the ones still to go.
+        QList<QItemSelectionRange> ranges(selection.cbegin(), selection.cend());
+        std::sort(ranges.begin(), ranges.end(), [](const auto &a, const auto &b) { return a.top() > b.top(); });
+        for (const QItemSelectionRange &range : std::as_const(ranges)) {
+            if (range.left() == 0 && range.right() == model->columnCount(range.parent()) - 1)
+                model->removeRows(range.top(), range.height(), range.parent());
+        }
+    }
+
+    ZARNTableView *const q;
+    std::unique_ptr<brixel::TableColumnList> columns;
+    brixel::HighlightGradientCache gradientCache;
+    ZARNTableViewDelegate *delegate = nullptr;
+    QPointer<QMenu> menu;
+    QMetaObject::Connection menuHidden;
+    quint32 highlightStyle = ZARNTableView::Rectangle;
+    QString emptyString;
+    std::optional<ZARNAttributedString> emptyAttributedString;
+    bool inDragPrep = false;
+    int contextMenuRow = -1;
+    QPoint pressPosition;
+    QPersistentModelIndex editedIndex;
+    QTimer liveResizeTimer;
+};
 
 ZARNTableView::ZARNTableView(QWidget *parent)
     : QTableView(parent)
+    , d(std::make_unique<ZARNTableViewPrivate>(this))
 {
+    auto *header = new ZARNNSTableHeaderView(this);
+    setHorizontalHeader(header);
+    d->columns = std::make_unique<brixel::TableColumnList>(this, header);
+    header->setColumnList(d->columns.get());
+    setSelectionBehavior(SelectRows);
+    d->liveResizeTimer.setSingleShot(true);
+    d->liveResizeTimer.setInterval(LiveResizeSettleInterval);
+    connect(&d->liveResizeTimer, &QTimer::timeout, this, &ZARNTableView::viewDidEndLiveResize);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            userDefaultsDidChange();
+    });
 }
 
 ZARNTableView::~ZARNTableView() = default;
@@ -27,4 +136,387 @@ const ZARNShadow &ZARNTableView::deactivatedShadow()
 {
     static const ZARNShadow shadow = blackShadowWithAlpha(0.3f);
     return shadow;
+}
+
+ZARNTableViewDelegate *ZARNTableView::delegate() const
+{
+    return d->delegate;
+}
+
+void ZARNTableView::setDelegate(ZARNTableViewDelegate *delegate)
+{
+    d->delegate = delegate;
+}
+
+QMenu *ZARNTableView::menu() const
+{
+    return d->menu;
+}
+
+void ZARNTableView::setMenu(QMenu *menu)
+{
+    disconnect(d->menuHidden);
+    d->menu = menu;
+    if (menu) {
+        d->menuHidden = connect(menu, &QMenu::aboutToHide, this, [this] {
+            d->contextMenuRow = -1;
+            viewport()->update();
+        });
+    }
+}
+
+quint32 ZARNTableView::highlightStyle() const
+{
+    return d->highlightStyle;
+}
+
+void ZARNTableView::setHighlightStyle(quint32 style)
+{
+    d->highlightStyle = style;
+}
+
+QString ZARNTableView::emptyString() const
+{
+    return d->emptyString;
+}
+
+void ZARNTableView::setEmptyString(const QString &string)
+{
+    d->emptyString = string;
+}
+
+std::optional<ZARNAttributedString> ZARNTableView::emptyAttributedString() const
+{
+    return d->emptyAttributedString;
+}
+
+void ZARNTableView::setEmptyAttributedString(const std::optional<ZARNAttributedString> &string)
+{
+    d->emptyAttributedString = string;
+}
+
+bool ZARNTableView::inDragPrep() const
+{
+    return d->inDragPrep;
+}
+
+int ZARNTableView::contextMenuRow() const
+{
+    return d->contextMenuRow;
+}
+
+int ZARNTableView::selectedRow() const
+{
+    const QItemSelectionModel *selection = selectionModel();
+    if (!selection)
+        return -1;
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && selection->isRowSelected(current.row(), rootIndex()))
+        return current.row();
+    const QModelIndexList rows = selection->selectedRows();
+    if (rows.isEmpty())
+        return -1;
+    return std::min_element(rows.cbegin(), rows.cend(), [](const QModelIndex &a, const QModelIndex &b) {
+               return a.row() < b.row();
+           })->row();
+}
+
+bool ZARNTableView::inLiveResize() const
+{
+    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
+        return false;
+    return d->liveResizeTimer.isActive();
+}
+
+void ZARNTableView::keyboardSearch(const QString &)
+{
+}
+
+void ZARNTableView::deleteBackward()
+{
+    if (d->delegate)
+        d->delegate->tableViewDeleteBackward(this);
+}
+
+void ZARNTableView::userDefaultsDidChange()
+{
+    d->gradientCache.invalidate();
+    viewport()->update();
+}
+
+QImage ZARNTableView::highlightGradientImage()
+{
+    return d->gradientCache.image(verticalHeader()->defaultSectionSize(),
+                                  palette().color(QPalette::Active, QPalette::Highlight));
+}
+
+QList<ZARNTableColumn *> ZARNTableView::tableColumns() const
+{
+    return d->columns->tableColumns();
+}
+
+int ZARNTableView::numberOfColumns() const
+{
+    return d->columns->numberOfColumns();
+}
+
+int ZARNTableView::columnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->columnWithIdentifier(identifier);
+}
+
+ZARNTableColumn *ZARNTableView::tableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->tableColumnWithIdentifier(identifier);
+}
+
+void ZARNTableView::hideColumn(int index)
+{
+    d->columns->hideColumn(index);
+}
+
+void ZARNTableView::hideColumnWithIdentifier(const QString &identifier)
+{
+    d->columns->hideColumnWithIdentifier(identifier);
+}
+
+ZARNTableColumn *ZARNTableView::hiddenTableColumnWithIdentifier(const QString &identifier) const
+{
+    return d->columns->hiddenTableColumnWithIdentifier(identifier);
+}
+
+void ZARNTableView::showColumnWithIdentifier(const QString &identifier)
+{
+    d->columns->showColumnWithIdentifier(identifier);
+}
+
+QList<ZARNTableColumn *> ZARNTableView::hiddenTableColumns() const
+{
+    return d->columns->hiddenTableColumns();
+}
+
+bool ZARNTableView::isEditableAtColumn(int column, int row)
+{
+    ZARNTableColumn *tableColumn = d->columns->columnAt(column);
+    // The delegate may open cells of read-only columns and close editable ones.
+    if (d->delegate) {
+        if (const std::optional<bool> answer = d->delegate->tableViewShouldEditTableColumn(this, tableColumn, row))
+            return *answer;
+    }
+    return tableColumn && tableColumn->isEditable()
+        && d->indexForCell({row, column}).flags().testFlag(Qt::ItemIsEditable);
+}
+
+void ZARNTableView::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (d->delegate)
+            d->delegate->tableViewReturnKey(this);
+        event->accept();
+        return;
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+        deleteBackward();
+        event->accept();
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down: {
+        const int before = selectedRow();
+        QTableView::keyPressEvent(event);
+        if (selectedRow() != before) {
+            if (d->delegate)
+                d->delegate->tableViewSelectionIsChanging({QString(NSTableViewSelectionIsChangingNotification), this, {}});
+            Q_EMIT selectionIsChanging();
+        }
+        return;
+    }
+    default:
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void ZARNTableView::mousePressEvent(QMouseEvent *event)
+{
+    d->pressPosition = event->position().toPoint();
+    if (event->button() == Qt::RightButton) {
+        contextClick(event);
+        return;
+    }
+    if (event->button() == Qt::LeftButton && event->modifiers().testFlag(Qt::MetaModifier)) {
+        const int row = rowAt(event->position().toPoint().y());
+        if (QMenu *menu = menuForEvent(event))
+            popUpMenu(menu, row, event->globalPosition().toPoint());
+        return;
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void ZARNTableView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    // A second click with the menu's modifier or button opens the menu again, as the first
+    // one did, instead of starting to edit.
+    if (event->button() == Qt::RightButton || event->modifiers().testFlag(Qt::MetaModifier)) {
+        mousePressEvent(event);
+        return;
+    }
+    QTableView::mouseDoubleClickEvent(event);
+}
+
+QMenu *ZARNTableView::menuForEvent(QMouseEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonPress && event->button() == Qt::LeftButton
+        && event->modifiers().testFlag(Qt::MetaModifier))
+        QTableView::mousePressEvent(event);
+    return d->menu;
+}
+
+void ZARNTableView::contextMenuEvent(QContextMenuEvent *event)
+{
+    // Mouse-driven menus were popped up by the press already; the keyboard's menu key opens
+    // the menu at the current row.
+    event->accept();
+    if (event->reason() == QContextMenuEvent::Mouse || !d->menu)
+        return;
+    const QModelIndex current = currentIndex();
+    const QPoint local = current.isValid() ? visualRect(current).bottomLeft() : QPoint();
+    popUpMenu(d->menu, current.row(), viewport()->mapToGlobal(local));
+}
+
+void ZARNTableView::contextClick(QMouseEvent *event)
+{
+    const int row = rowAt(event->position().toPoint().y());
+    if (row >= 0) {
+        // The data source opts into the rule with its own check, and only then is asked the
+        // question; one that does not opt in always gets the clicked row selected alone.
+        auto *dataSource = dynamic_cast<ZARNTableViewDataSource *>(model());
+        const bool selectAlone = !dataSource || !dataSource->respondsToTableviewShouldSelectRow()
+            || (!selectionModel()->isRowSelected(row, rootIndex())
+                && dataSource->tableViewShouldSelectRow(this, row).value_or(false));
+        if (selectAlone) {
+            const int column = currentIndex().isValid() ? currentIndex().column() : 0;
+            selectRowAlone(model()->index(row, column, rootIndex()));
+        }
+    }
+    if (d->menu)
+        popUpMenu(d->menu, row, event->globalPosition().toPoint());
+}
+
+void ZARNTableView::popUpMenu(QMenu *menu, int row, const QPoint &globalPosition)
+{
+    d->contextMenuRow = row;
+    viewport()->update();
+    menu->popup(globalPosition);
+}
+
+void ZARNTableView::selectRowAlone(const QModelIndex &index)
+{
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    viewport()->update();
+}
+
+void ZARNTableView::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    scheduleDelayedItemsLayout();
+    d->liveResizeTimer.start();
+}
+
+void ZARNTableView::viewDidEndLiveResize()
+{
+    doItemsLayout();
+}
+
+bool ZARNTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool opened = QTableView::edit(index, trigger, event);
+    if (opened && indexWidget(index))
+        d->editedIndex = index;
+    return opened;
+}
+
+void ZARNTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    const brixel::TextMovement movement = brixel::textMovementForHint(hint);
+    const QModelIndex edited = d->editedIndex;
+    const std::optional<brixel::Cell> from = edited.isValid() && indexWidget(edited) == editor
+        ? d->cellForIndex(edited)
+        : std::nullopt;
+    std::optional<brixel::Cell> target;
+    if (from) {
+        target = brixel::nextEditableCell(movement, *from, model()->rowCount(rootIndex()), numberOfColumns(),
+                                          [this](brixel::Cell cell) { return isEditableAtColumn(cell.column, cell.row); });
+    }
+    if (!target) {
+        QTableView::closeEditor(editor, hint);
+        return;
+    }
+
+    commitData(editor);
+    QTableView::closeEditor(editor, QAbstractItemDelegate::SubmitModelCache);
+    if (movement == brixel::TextMovement::Tab && d->delegate)
+        d->delegate->tableViewWillTabToColumn(this, target->column, target->row, from->column, from->row);
+    editCell(d->indexForCell(*target));
+}
+
+void ZARNTableView::editCell(const QModelIndex &index)
+{
+    if (!index.isValid())
+        return;
+    selectRowAlone(index);
+    // With the CurrentChanged trigger, moving the current index has opened the editor already.
+    if (!editTriggers().testFlag(CurrentChanged))
+        edit(index, AllEditTriggers, nullptr);
+    if (QWidget *editor = indexWidget(index)) {
+        if (auto *lineEdit = qobject_cast<QLineEdit *>(focusTarget(editor)))
+            lineEdit->selectAll();
+    }
+}
+
+void ZARNTableView::startDrag(Qt::DropActions supportedActions)
+{
+    QModelIndexList indexes;
+    QRect area;
+    const QModelIndexList selected = selectedIndexes();
+    for (const QModelIndex &index : selected) {
+        if (index.flags().testFlag(Qt::ItemIsDragEnabled)) {
+            indexes.append(index);
+            area |= visualRect(index);
+        }
+    }
+    if (indexes.isEmpty())
+        return;
+    std::unique_ptr<QMimeData> data(model()->mimeData(indexes));
+    if (!data)
+        return;
+
+    // The picture comes from the view's own drawing; while it is made, cells draw their
+    // contents as if unselected.
+    area &= viewport()->rect();
+    d->inDragPrep = true;
+    const QPixmap picture = viewport()->grab(area);
+    d->inDragPrep = false;
+
+    QPointer<QDrag> drag = new QDrag(this);
+    drag->setPixmap(picture);
+    drag->setMimeData(data.release());
+    drag->setHotSpot(d->pressPosition - area.topLeft());
+
+    if (dragDropMode() == InternalMove)
+        supportedActions &= ~Qt::CopyAction;
+    Qt::DropAction defaultAction = Qt::IgnoreAction;
+    if (defaultDropAction() != Qt::IgnoreAction && supportedActions.testFlag(defaultDropAction()))
+        defaultAction = defaultDropAction();
+    else if (supportedActions.testFlag(Qt::CopyAction) && dragDropMode() != InternalMove)
+        defaultAction = Qt::CopyAction;
+
+    const Qt::DropAction action = execDrag(drag, supportedActions, defaultAction);
+    if (action == Qt::MoveAction && (dragDropMode() != InternalMove || (drag && drag->target() == viewport())))
+        d->removeMovedItems();
+}
+
+Qt::DropAction ZARNTableView::execDrag(QDrag *drag, Qt::DropActions supportedActions, Qt::DropAction defaultAction)
+{
+    return drag->exec(supportedActions, defaultAction);
 }

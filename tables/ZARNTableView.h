@@ -1,19 +1,51 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <Brixel/ZARNAttributedString.h>
 #include <Brixel/ZARNShadow.h>
 #include <Brixel/brixel_export.h>
 
 #include <QTableView>
 
+#include <memory>
+#include <optional>
+
+class QDrag;
+class QMenu;
+class ZARNTableColumn;
+class ZARNTableViewDelegate;
+
 /**
  * A table view that draws its own selection (rectangle, capsule or rounded rectangle),
  * hides and restores columns by identifier, moves editing like a spreadsheet and shows a
- * message while it has no rows. Any Qt model drives it, as it drives a QTableView.
+ * message while it has no rows. Any Qt model drives it, as it drives a QTableView; a model
+ * that also inherits ZARNTableViewDataSource is asked the context-click question too.
+ *
+ * Rows are the unit of selection (SelectRows). The keyboard works as follows:
+ * - Return and Enter go to the delegate's tableViewReturnKey(); Backspace and Delete to its
+ *   tableViewDeleteBackward() (see deleteBackward()). The table consumes these keys with or
+ *   without a delegate.
+ * - Up and Down move the selection as in QTableView and, when selectedRow() changed, send
+ *   the delegate tableViewSelectionIsChanging() and emit selectionIsChanging().
+ * - Typing letters does not select rows by their text.
+ * While a cell is being edited, Tab, Backtab (Shift+Tab) and Return commit the text and open
+ * the next editable cell: see closeEditor().
+ *
+ * Columns are ZARNTableColumn objects, one per model column; the table's columns
+ * (tableColumns(), numberOfColumns() and every column index below) are the shown ones, left
+ * to right. The horizontal header is a ZARNNSTableHeaderView.
+ *
+ * A right click (or a Control-click, Qt::MetaModifier) applies the context-click selection
+ * rule described at ZARNTableViewDataSource::respondsToTableviewShouldSelectRow() and pops up
+ * menu(); contextMenuRow() names the clicked row while the menu is open.
  *
  * \code
  * auto *table = new ZARNTableView(parent);
  * table->setModel(model);
+ * table->setDelegate(&controller);
+ * table->setMenu(rowMenu);
+ * table->setHighlightStyle(ZARNTableView::Capsule);
+ * table->setEmptyString(tr("No downloads"));
  * \endcode
  */
 class BRIXEL_EXPORT ZARNTableView : public QTableView
@@ -28,6 +60,9 @@ public:
         RoundedRectangle = 2, ///< corners rounded by a fifth of the row's height
     };
 
+    /// How long after the last resize inLiveResize() keeps answering true, in milliseconds.
+    static constexpr int LiveResizeSettleInterval = 250;
+
     explicit ZARNTableView(QWidget *parent = nullptr);
     ~ZARNTableView() override;
 
@@ -39,4 +74,149 @@ public:
 
     /// standardShadow() at 30% opacity, for text in inactive surroundings.
     static const ZARNShadow &deactivatedShadow();
+
+    /// The object told about keys and editing and asked about cells; not owned, null for none.
+    ZARNTableViewDelegate *delegate() const;
+    void setDelegate(ZARNTableViewDelegate *delegate);
+
+    /// The menu a right click or Control-click pops up; not owned, null for none. A menu
+    /// deleted elsewhere reads as null.
+    QMenu *menu() const;
+    void setMenu(QMenu *menu);
+
+    /// One of HighlightStyle; any other number is kept and draws as Rectangle. Setting it
+    /// does not repaint by itself.
+    quint32 highlightStyle() const;
+    void setHighlightStyle(quint32 style);
+
+    /// The plain text shown while the table has no rows; a null string shows nothing.
+    QString emptyString() const;
+    void setEmptyString(const QString &string);
+
+    /// The styled text shown while the table has no rows, in place of emptyString() when set
+    /// (even when empty); std::nullopt clears it.
+    std::optional<ZARNAttributedString> emptyAttributedString() const;
+    void setEmptyAttributedString(const std::optional<ZARNAttributedString> &string);
+
+    /// True only while the picture of dragged rows is being made, so that the rows are drawn
+    /// without highlighted cell contents in it.
+    bool inDragPrep() const;
+
+    /// The row the open context menu was popped up for; -1 while no menu is open or when the
+    /// click was below the last row.
+    int contextMenuRow() const;
+
+    /// The row whose selection the arrow keys follow: the current index's row when that row
+    /// is selected, otherwise the first selected row, -1 when no row is selected.
+    int selectedRow() const;
+
+    /// True from a resize until LiveResizeSettleInterval ms after the last one, when
+    /// viewDidEndLiveResize() runs; false when there is no QApplication.
+    bool inLiveResize() const;
+
+    /// The shown columns, left to right.
+    QList<ZARNTableColumn *> tableColumns() const;
+    int numberOfColumns() const;
+
+    /// The index of the first shown column whose identifier is \a identifier, or -1.
+    int columnWithIdentifier(const QString &identifier) const;
+    /// The first shown column whose identifier is \a identifier, or null.
+    ZARNTableColumn *tableColumnWithIdentifier(const QString &identifier) const;
+
+    /**
+     * Hides the shown column at \a index (dropping its sort indicator) and keeps it for
+     * showColumnWithIdentifier(); an index outside 0 .. numberOfColumns() - 1 does nothing.
+     * Unlike QTableView::hideColumn(), which it hides, \a index counts shown columns.
+     */
+    void hideColumn(int index);
+    /// hideColumn() of columnWithIdentifier(); an unknown identifier does nothing.
+    void hideColumnWithIdentifier(const QString &identifier);
+    /// The first hidden column (in hiding order) with \a identifier; null for a null
+    /// identifier or when none matches.
+    ZARNTableColumn *hiddenTableColumnWithIdentifier(const QString &identifier) const;
+    /// Shows hiddenTableColumnWithIdentifier() again as the rightmost column, without its
+    /// former place or sort indicator; an identifier no hidden column has does nothing.
+    void showColumnWithIdentifier(const QString &identifier);
+    /// The columns hidden by hideColumn(), in hiding order.
+    QList<ZARNTableColumn *> hiddenTableColumns() const;
+
+    /**
+     * Whether the cell at shown column \a column and \a row may be edited. When the delegate
+     * answers tableViewShouldEditTableColumn() (with a null column for an index out of
+     * range), its answer decides, even against a read-only column. Otherwise the column must
+     * be editable and the model must flag the cell Qt::ItemIsEditable, since Qt cannot edit a
+     * cell its model keeps read-only (a delegate's yes for such a cell ends editing instead
+     * of opening it). Out-of-range cells are not editable.
+     */
+    bool isEditableAtColumn(int column, int row);
+
+    /// The gradient that fills selected rows, for the current row height and the palette's
+    /// highlight colour; made once per row height (see brixel::HighlightGradientCache).
+    QImage highlightGradientImage();
+
+    /// Does nothing: this table has no selection by typing.
+    void keyboardSearch(const QString &search) override;
+
+    using QTableView::edit;
+
+public Q_SLOTS:
+    /// Sends the delegate tableViewDeleteBackward(), as Backspace and Delete do.
+    void deleteBackward();
+
+    /// Runs when the application becomes active: the system highlight colour may have
+    /// changed, so the selection gradient is made again and the rows repainted.
+    void userDefaultsDidChange();
+
+Q_SIGNALS:
+    /// Up or Down changed selectedRow().
+    void selectionIsChanging();
+
+protected:
+    /**
+     * The menu for a left click with the Control modifier (Qt::MetaModifier). A single press
+     * first selects like a plain click; a double-click event does not. Answers menu().
+     */
+    virtual QMenu *menuForEvent(QMouseEvent *event);
+
+    /// Runs once a series of resizes has settled: lays the rows out again.
+    virtual void viewDidEndLiveResize();
+
+    /// Runs \a drag (QDrag::exec) and answers the action the drop took.
+    virtual Qt::DropAction execDrag(QDrag *drag, Qt::DropActions supportedActions, Qt::DropAction defaultAction);
+
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+    /**
+     * Makes the picture of the dragged cells from the view's own drawing (inDragPrep() is
+     * true meanwhile), then runs the drag through execDrag(). After a move out of the view
+     * (or any move unless the mode is InternalMove), the moved rows are removed from the
+     * model, or their cells cleared in overwrite mode, as QAbstractItemView does.
+     */
+    void startDrag(Qt::DropActions supportedActions) override;
+
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+
+protected Q_SLOTS:
+    /**
+     * Moves editing on Tab, Backtab and Return (the editor's EditNextItem, EditPreviousItem
+     * and SubmitModelCache hints) as brixel::nextEditableCell() finds: the editor's value is
+     * committed (even when the editor never emitted commitData()) and the model's cache
+     * submitted, the target row becomes the only selected row, and the target cell opens for
+     * editing with its text selected. For Tab the delegate's tableViewWillTabToColumn() may
+     * change the target first; a target it moves outside the table just ends editing.
+     * Any other hint, or no editable target, is QTableView's.
+     */
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    void contextClick(QMouseEvent *event);
+    void popUpMenu(QMenu *menu, int row, const QPoint &globalPosition);
+    void selectRowAlone(const QModelIndex &index);
+    void editCell(const QModelIndex &index);
+
+    std::unique_ptr<class ZARNTableViewPrivate> const d;
 };

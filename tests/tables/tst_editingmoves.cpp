@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNEditingMoves.h>
+
+#include <QTest>
+
+#include <climits>
+
+using brixel::Cell;
+using brixel::TextMovement;
+
+Q_DECLARE_METATYPE(brixel::TextMovement)
+
+namespace {
+
+QString describe(const std::optional<Cell> &cell)
+{
+    return cell ? QStringLiteral("(%1, %2)").arg(cell->row).arg(cell->column) : QStringLiteral("none");
+}
+
+} // namespace
+
+class TestEditingMoves : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void visitingOrder_data();
+    void visitingOrder();
+    void target_data();
+    void target();
+};
+
+void TestEditingMoves::visitingOrder_data()
+{
+    QTest::addColumn<TextMovement>("movement");
+    QTest::addColumn<Cell>("from");
+    QTest::addColumn<QList<Cell>>("visited");
+
+    // A 3 x 2 table in which nothing is editable, so every movement scans to its end; the
+    // wrapping pass covers the starting row (and cell) again.
+    QTest::newRow("tab") << TextMovement::Tab << Cell{1, 0}
+                         << QList<Cell>{{1, 1}, {2, 0}, {2, 1}, {0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {2, 1}};
+    QTest::newRow("backtab") << TextMovement::Backtab << Cell{1, 1}
+                             << QList<Cell>{{1, 0}, {0, 1}, {0, 0}, {2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0}};
+    QTest::newRow("return") << TextMovement::Return << Cell{1, 1} << QList<Cell>{{2, 1}, {0, 1}, {1, 1}, {2, 1}};
+    QTest::newRow("tab from the last cell") << TextMovement::Tab << Cell{2, 1}
+                                            << QList<Cell>{{0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {2, 1}};
+    QTest::newRow("backtab from below the table") << TextMovement::Backtab << Cell{9, 0}
+                                                  << QList<Cell>{{2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0},
+                                                                 {2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0}};
+    QTest::newRow("return from a column outside") << TextMovement::Return << Cell{0, 2} << QList<Cell>{};
+    QTest::newRow("other") << TextMovement::Other << Cell{0, 0} << QList<Cell>{};
+}
+
+void TestEditingMoves::visitingOrder()
+{
+    QFETCH(TextMovement, movement);
+    QFETCH(Cell, from);
+    QFETCH(QList<Cell>, visited);
+
+    QStringList seen, expected;
+    const auto isEditable = [&seen](Cell cell) {
+        seen.append(describe(cell));
+        return false;
+    };
+    QVERIFY(!brixel::nextEditableCell(movement, from, 3, 2, isEditable));
+    for (Cell cell : visited)
+        expected.append(describe(cell));
+    QCOMPARE(seen, expected);
+}
+
+void TestEditingMoves::target_data()
+{
+    QTest::addColumn<TextMovement>("movement");
+    QTest::addColumn<Cell>("from");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QList<Cell>>("editable");
+    QTest::addColumn<QString>("expected");
+
+    // Tables of three columns.
+    const auto Tab = TextMovement::Tab, Backtab = TextMovement::Backtab, Return = TextMovement::Return;
+    const QList<Cell> scattered{{0, 2}, {1, 0}, {2, 1}, {3, 2}};
+    QTest::newRow("tab: first editable cell after") << Tab << Cell{1, 0} << 4 << scattered << "(2, 1)";
+    QTest::newRow("tab: wraps to the first") << Tab << Cell{3, 2} << 4 << scattered << "(0, 2)";
+    QTest::newRow("backtab: first editable cell before") << Backtab << Cell{2, 1} << 4 << scattered << "(1, 0)";
+    QTest::newRow("backtab: wraps to the last") << Backtab << Cell{0, 2} << 4 << scattered << "(3, 2)";
+    QTest::newRow("return: wraps in the column") << Return << Cell{3, 2} << 4 << scattered << "(0, 2)";
+    QTest::newRow("tab: only editable cell returns to itself") << Tab << Cell{2, 1} << 4 << QList<Cell>{{2, 1}} << "(2, 1)";
+    QTest::newRow("return: only editable cell returns to itself") << Return << Cell{2, 1} << 4 << QList<Cell>{{2, 1}} << "(2, 1)";
+    QTest::newRow("nothing editable") << Tab << Cell{2, 1} << 4 << QList<Cell>{} << "none";
+    QTest::newRow("empty table") << Tab << Cell{0, 0} << 0 << scattered << "none";
+    QTest::newRow("negative rows") << Backtab << Cell{0, 0} << -4 << scattered << "none";
+    // The editor's row may be gone: a hit there answers "nowhere".
+    QTest::newRow("hit in a removed row") << Tab << Cell{7, 0} << 4 << QList<Cell>{{7, 1}, {1, 0}} << "none";
+    QTest::newRow("tab: extreme indexes") << Tab << Cell{INT_MAX, INT_MAX} << 4 << scattered << "(0, 2)";
+    QTest::newRow("backtab: extreme indexes") << Backtab << Cell{INT_MIN, INT_MIN} << 4 << scattered << "(3, 2)";
+    QTest::newRow("return: extreme row") << Return << Cell{INT_MAX, 1} << 4 << scattered << "(2, 1)";
+}
+
+void TestEditingMoves::target()
+{
+    QFETCH(TextMovement, movement);
+    QFETCH(Cell, from);
+    QFETCH(int, rows);
+    QFETCH(QList<Cell>, editable);
+    QFETCH(QString, expected);
+
+    const auto isEditable = [&editable](Cell cell) { return editable.contains(cell); };
+    QCOMPARE(describe(brixel::nextEditableCell(movement, from, rows, 3, isEditable)), expected);
+}
+
+QTEST_APPLESS_MAIN(TestEditingMoves)
+#include "tst_editingmoves.moc"
