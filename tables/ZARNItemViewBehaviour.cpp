@@ -106,13 +106,13 @@ QModelIndex ItemViewBehaviour::contextMenuItem() const
     return m_contextMenuItem;
 }
 
-void ItemViewBehaviour::popUpMenu(const QModelIndex &index, const QPoint &globalPos)
+void ItemViewBehaviour::popUpMenu(QMenu *menu, const QModelIndex &index, const QPoint &globalPos)
 {
-    if (!m_menu)
+    if (!menu)
         return;
     m_contextMenuItem = index.siblingAtColumn(0);
     m_view->viewport()->update();
-    m_menu->popup(globalPos);
+    menu->popup(globalPos);
 }
 
 void ItemViewBehaviour::contextMenuEvent(QContextMenuEvent *event)
@@ -122,7 +122,7 @@ void ItemViewBehaviour::contextMenuEvent(QContextMenuEvent *event)
         return;
     const QModelIndex current = m_view->currentIndex();
     const QPoint local = current.isValid() ? m_view->visualRect(current).bottomLeft() : QPoint();
-    popUpMenu(current, m_view->viewport()->mapToGlobal(local));
+    popUpMenu(m_menu, current, m_view->viewport()->mapToGlobal(local));
 }
 
 bool ItemViewBehaviour::moveChangesSelectedRow(const std::function<void()> &passToQt) const

@@ -95,16 +95,16 @@ public:
     QModelIndex contextMenuItem() const;
 
     /**
-     * Pops the menu up at \a globalPos for the row of \a index (invalid: no row) and redraws
-     * the viewport, so that the row can show it is the menu's. Qt emits the menu's
-     * aboutToShow(), where the application updates it. Without a menu nothing happens.
+     * Pops \a menu (usually menu()) up at \a globalPos for the row of \a index (invalid: no
+     * row) and redraws the viewport, so that the row can show it is the menu's. Qt emits the
+     * menu's aboutToShow(), where the application updates it. A null menu does nothing.
      */
-    void popUpMenu(const QModelIndex &index, const QPoint &globalPos);
+    void popUpMenu(QMenu *menu, const QModelIndex &index, const QPoint &globalPos);
 
     /**
      * The view's contextMenuEvent(): the event is accepted; a mouse-driven one does nothing
-     * more, because the press already popped the menu up, and one from the keyboard pops it
-     * up below the current index (at the viewport's corner without one).
+     * more, because the press already popped the menu up, and one from the keyboard pops
+     * menu() up below the current index (at the viewport's corner without one).
      */
     void contextMenuEvent(QContextMenuEvent *event);
 

@@ -147,7 +147,7 @@ void ZARNOutlineViewPrivate::contextClick(const QMouseEvent &event)
             brixel::selectRowAlone(q, item);
         q->viewport()->update();
     }
-    behaviour->popUpMenu(item, event.globalPosition().toPoint());
+    behaviour->popUpMenu(behaviour->menu(), item, event.globalPosition().toPoint());
 }
 
 void ZARNOutlineViewPrivate::finishDrop(bool deposited)
@@ -493,7 +493,7 @@ void ZARNOutlineView::mousePressEvent(QMouseEvent *event)
     event->setAccepted(shifted->isAccepted());
     d->forwardingMouse = false;
     if (brixel::controlClickSelectsFirst(event))
-        d->behaviour->popUpMenu(d->rowItemAt(d->pressPosition), event->globalPosition().toPoint());
+        d->behaviour->popUpMenu(menu(), d->rowItemAt(d->pressPosition), event->globalPosition().toPoint());
 }
 
 void ZARNOutlineView::mouseMoveEvent(QMouseEvent *event)
@@ -519,7 +519,7 @@ void ZARNOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
     if (!isEnabled())
         return;
     if (brixel::isControlClick(event)) {
-        d->behaviour->popUpMenu(d->rowItemAt(event->position().toPoint()), event->globalPosition().toPoint());
+        d->behaviour->popUpMenu(menu(), d->rowItemAt(event->position().toPoint()), event->globalPosition().toPoint());
         return;
     }
     if (event->button() == Qt::RightButton) {

@@ -3,6 +3,7 @@
 
 #include "ZARNEditingMoves.h"
 #include "ZARNHighlightGradient.h"
+#include "ZARNItemViewBehaviour.h"
 #include "ZARNNSTableHeaderView.h"
 #include "ZARNTableColumn.h"
 #include "ZARNTableColumnList.h"
@@ -11,16 +12,10 @@
 
 #include <Brixel/ZARNNotification.h>
 
-#include <QApplication>
-#include <QContextMenuEvent>
 #include <QDrag>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QPointer>
-#include <QTimer>
 
 namespace {
 
@@ -56,6 +51,12 @@ public:
         return brixel::Cell{index.row(), column};
     }
 
+    /// The column-0 item of \a row; invalid outside the rows or without a model.
+    QModelIndex rowItem(int row) const
+    {
+        return q->model() ? q->model()->index(row, 0, q->rootIndex()) : QModelIndex();
+    }
+
     /// The model index of a table cell; invalid outside the table.
     QModelIndex indexForCell(brixel::Cell cell) const
     {
@@ -65,45 +66,16 @@ public:
         return q->model()->index(cell.row, column->modelColumn(), q->rootIndex());
     }
 
-    /// After a drag moved the selection away: removes the wholly selected rows, or in
-    /// overwrite mode clears every selected cell, as QAbstractItemView does.
-    void removeMovedItems() const
-    {
-        QAbstractItemModel *model = q->model();
-        const QItemSelection selection = q->selectionModel()->selection();
-        if (q->dragDropOverwriteMode()) {
-            const QModelIndexList indexes = selection.indexes();
-            for (const QModelIndex &index : indexes) {
-                QMap<int, QVariant> roles = model->itemData(index);
-                for (QVariant &value : roles)
-                    value = QVariant();
-                model->setItemData(index, roles);
-            }
-            return;
-        }
-        // Bottom ranges first, so that removing rows does not shift the ones still to go.
-        QList<QItemSelectionRange> ranges(selection.cbegin(), selection.cend());
-        std::sort(ranges.begin(), ranges.end(), [](const auto &a, const auto &b) { return a.top() > b.top(); });
-        for (const QItemSelectionRange &range : std::as_const(ranges)) {
-            if (range.left() == 0 && range.right() == model->columnCount(range.parent()) - 1)
-                model->removeRows(range.top(), range.height(), range.parent());
-        }
-    }
-
     ZARNTableView *const q;
+    brixel::ItemViewBehaviour *behaviour = nullptr;
     std::unique_ptr<brixel::TableColumnList> columns;
     brixel::HighlightGradientCache gradientCache;
     ZARNTableViewDelegate *delegate = nullptr;
-    QPointer<QMenu> menu;
-    QMetaObject::Connection menuHidden;
     quint32 highlightStyle = ZARNTableView::Rectangle;
     QString emptyString;
     std::optional<ZARNAttributedString> emptyAttributedString;
-    bool inDragPrep = false;
-    int contextMenuRow = -1;
     QPoint pressPosition;
     QPersistentModelIndex editedIndex;
-    QTimer liveResizeTimer;
 };
 
 ZARNTableView::ZARNTableView(QWidget *parent)
@@ -115,13 +87,9 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     d->columns = std::make_unique<brixel::TableColumnList>(this, header);
     header->setColumnList(d->columns.get());
     setSelectionBehavior(SelectRows);
-    d->liveResizeTimer.setSingleShot(true);
-    d->liveResizeTimer.setInterval(LiveResizeSettleInterval);
-    connect(&d->liveResizeTimer, &QTimer::timeout, this, &ZARNTableView::viewDidEndLiveResize);
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive)
-            userDefaultsDidChange();
-    });
+    d->behaviour = new brixel::ItemViewBehaviour(this);
+    connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, &ZARNTableView::viewDidEndLiveResize);
+    connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNTableView::userDefaultsDidChange);
 }
 
 ZARNTableView::~ZARNTableView() = default;
@@ -150,19 +118,12 @@ void ZARNTableView::setDelegate(ZARNTableViewDelegate *delegate)
 
 QMenu *ZARNTableView::menu() const
 {
-    return d->menu;
+    return d->behaviour->menu();
 }
 
 void ZARNTableView::setMenu(QMenu *menu)
 {
-    disconnect(d->menuHidden);
-    d->menu = menu;
-    if (menu) {
-        d->menuHidden = connect(menu, &QMenu::aboutToHide, this, [this] {
-            d->contextMenuRow = -1;
-            viewport()->update();
-        });
-    }
+    d->behaviour->setMenu(menu);
 }
 
 quint32 ZARNTableView::highlightStyle() const
@@ -197,35 +158,24 @@ void ZARNTableView::setEmptyAttributedString(const std::optional<ZARNAttributedS
 
 bool ZARNTableView::inDragPrep() const
 {
-    return d->inDragPrep;
+    return d->behaviour->inDragPrep();
 }
 
 int ZARNTableView::contextMenuRow() const
 {
-    return d->contextMenuRow;
+    const QModelIndex item = d->behaviour->contextMenuItem();
+    return item.isValid() ? item.row() : -1;
 }
 
 int ZARNTableView::selectedRow() const
 {
-    const QItemSelectionModel *selection = selectionModel();
-    if (!selection)
-        return -1;
-    const QModelIndex current = currentIndex();
-    if (current.isValid() && selection->isRowSelected(current.row(), rootIndex()))
-        return current.row();
-    const QModelIndexList rows = selection->selectedRows();
-    if (rows.isEmpty())
-        return -1;
-    return std::min_element(rows.cbegin(), rows.cend(), [](const QModelIndex &a, const QModelIndex &b) {
-               return a.row() < b.row();
-           })->row();
+    const QModelIndex item = brixel::selectedRowItem(this);
+    return item.isValid() ? item.row() : -1;
 }
 
 bool ZARNTableView::inLiveResize() const
 {
-    if (!qobject_cast<QApplication *>(QCoreApplication::instance()))
-        return false;
-    return d->liveResizeTimer.isActive();
+    return d->behaviour->inLiveResize();
 }
 
 void ZARNTableView::keyboardSearch(const QString &)
@@ -309,31 +259,26 @@ bool ZARNTableView::isEditableAtColumn(int column, int row)
 
 void ZARNTableView::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    switch (brixel::keyRole(event->key())) {
+    case brixel::KeyRole::ReturnKey:
         if (d->delegate)
             d->delegate->tableViewReturnKey(this);
         event->accept();
         return;
-    case Qt::Key_Backspace:
-    case Qt::Key_Delete:
+    case brixel::KeyRole::DeleteBackward:
         deleteBackward();
         event->accept();
         return;
-    case Qt::Key_Up:
-    case Qt::Key_Down: {
-        const int before = selectedRow();
-        QTableView::keyPressEvent(event);
-        if (selectedRow() != before) {
+    case brixel::KeyRole::SelectionMove:
+        if (d->behaviour->moveChangesSelectedRow([&] { QTableView::keyPressEvent(event); })) {
             if (d->delegate)
                 d->delegate->tableViewSelectionIsChanging({QString(NSTableViewSelectionIsChangingNotification), this, {}});
             Q_EMIT selectionIsChanging();
         }
         return;
-    }
-    default:
+    case brixel::KeyRole::Other:
         QTableView::keyPressEvent(event);
+        return;
     }
 }
 
@@ -344,10 +289,9 @@ void ZARNTableView::mousePressEvent(QMouseEvent *event)
         contextClick(event);
         return;
     }
-    if (event->button() == Qt::LeftButton && event->modifiers().testFlag(Qt::MetaModifier)) {
-        const int row = rowAt(event->position().toPoint().y());
-        if (QMenu *menu = menuForEvent(event))
-            popUpMenu(menu, row, event->globalPosition().toPoint());
+    if (brixel::isControlClick(event)) {
+        const QModelIndex item = d->rowItem(rowAt(event->position().toPoint().y()));
+        d->behaviour->popUpMenu(menuForEvent(event), item, event->globalPosition().toPoint());
         return;
     }
     QTableView::mousePressEvent(event);
@@ -366,22 +310,14 @@ void ZARNTableView::mouseDoubleClickEvent(QMouseEvent *event)
 
 QMenu *ZARNTableView::menuForEvent(QMouseEvent *event)
 {
-    if (event->type() == QEvent::MouseButtonPress && event->button() == Qt::LeftButton
-        && event->modifiers().testFlag(Qt::MetaModifier))
+    if (brixel::controlClickSelectsFirst(event))
         QTableView::mousePressEvent(event);
-    return d->menu;
+    return menu();
 }
 
 void ZARNTableView::contextMenuEvent(QContextMenuEvent *event)
 {
-    // Mouse-driven menus were popped up by the press already; the keyboard's menu key opens
-    // the menu at the current row.
-    event->accept();
-    if (event->reason() == QContextMenuEvent::Mouse || !d->menu)
-        return;
-    const QModelIndex current = currentIndex();
-    const QPoint local = current.isValid() ? visualRect(current).bottomLeft() : QPoint();
-    popUpMenu(d->menu, current.row(), viewport()->mapToGlobal(local));
+    d->behaviour->contextMenuEvent(event);
 }
 
 void ZARNTableView::contextClick(QMouseEvent *event)
@@ -396,31 +332,17 @@ void ZARNTableView::contextClick(QMouseEvent *event)
                 && dataSource->tableViewShouldSelectRow(this, row).value_or(false));
         if (selectAlone) {
             const int column = currentIndex().isValid() ? currentIndex().column() : 0;
-            selectRowAlone(model()->index(row, column, rootIndex()));
+            brixel::selectRowAlone(this, model()->index(row, column, rootIndex()));
         }
     }
-    if (d->menu)
-        popUpMenu(d->menu, row, event->globalPosition().toPoint());
-}
-
-void ZARNTableView::popUpMenu(QMenu *menu, int row, const QPoint &globalPosition)
-{
-    d->contextMenuRow = row;
-    viewport()->update();
-    menu->popup(globalPosition);
-}
-
-void ZARNTableView::selectRowAlone(const QModelIndex &index)
-{
-    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    viewport()->update();
+    d->behaviour->popUpMenu(menu(), d->rowItem(row), event->globalPosition().toPoint());
 }
 
 void ZARNTableView::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
     scheduleDelayedItemsLayout();
-    d->liveResizeTimer.start();
+    d->behaviour->noteResize();
 }
 
 void ZARNTableView::viewDidEndLiveResize()
@@ -464,7 +386,7 @@ void ZARNTableView::editCell(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
-    selectRowAlone(index);
+    brixel::selectRowAlone(this, index);
     // With the CurrentChanged trigger, moving the current index has opened the editor already.
     if (!editTriggers().testFlag(CurrentChanged))
         edit(index, AllEditTriggers, nullptr);
@@ -476,44 +398,10 @@ void ZARNTableView::editCell(const QModelIndex &index)
 
 void ZARNTableView::startDrag(Qt::DropActions supportedActions)
 {
-    QModelIndexList indexes;
-    QRect area;
-    const QModelIndexList selected = selectedIndexes();
-    for (const QModelIndex &index : selected) {
-        if (index.flags().testFlag(Qt::ItemIsDragEnabled)) {
-            indexes.append(index);
-            area |= visualRect(index);
-        }
-    }
-    if (indexes.isEmpty())
-        return;
-    std::unique_ptr<QMimeData> data(model()->mimeData(indexes));
-    if (!data)
-        return;
-
-    // The picture comes from the view's own drawing; while it is made, cells draw their
-    // contents as if unselected.
-    area &= viewport()->rect();
-    d->inDragPrep = true;
-    const QPixmap picture = viewport()->grab(area);
-    d->inDragPrep = false;
-
-    QPointer<QDrag> drag = new QDrag(this);
-    drag->setPixmap(picture);
-    drag->setMimeData(data.release());
-    drag->setHotSpot(d->pressPosition - area.topLeft());
-
-    if (dragDropMode() == InternalMove)
-        supportedActions &= ~Qt::CopyAction;
-    Qt::DropAction defaultAction = Qt::IgnoreAction;
-    if (defaultDropAction() != Qt::IgnoreAction && supportedActions.testFlag(defaultDropAction()))
-        defaultAction = defaultDropAction();
-    else if (supportedActions.testFlag(Qt::CopyAction) && dragDropMode() != InternalMove)
-        defaultAction = Qt::CopyAction;
-
-    const Qt::DropAction action = execDrag(drag, supportedActions, defaultAction);
-    if (action == Qt::MoveAction && (dragDropMode() != InternalMove || (drag && drag->target() == viewport())))
-        d->removeMovedItems();
+    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition,
+                            [this](QDrag *drag, Qt::DropActions supported, Qt::DropAction action) {
+                                return execDrag(drag, supported, action);
+                            });
 }
 
 Qt::DropAction ZARNTableView::execDrag(QDrag *drag, Qt::DropActions supportedActions, Qt::DropAction defaultAction)

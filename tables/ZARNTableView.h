@@ -2,6 +2,7 @@
 #pragma once
 
 #include <Brixel/ZARNAttributedString.h>
+#include <Brixel/ZARNItemViewBehaviour.h>
 #include <Brixel/ZARNShadow.h>
 #include <Brixel/brixel_export.h>
 
@@ -61,7 +62,7 @@ public:
     };
 
     /// How long after the last resize inLiveResize() keeps answering true, in milliseconds.
-    static constexpr int LiveResizeSettleInterval = 250;
+    static constexpr int LiveResizeSettleInterval = brixel::ItemViewBehaviour::LiveResizeSettleInterval;
 
     explicit ZARNTableView(QWidget *parent = nullptr);
     ~ZARNTableView() override;
@@ -214,8 +215,6 @@ protected Q_SLOTS:
 
 private:
     void contextClick(QMouseEvent *event);
-    void popUpMenu(QMenu *menu, int row, const QPoint &globalPosition);
-    void selectRowAlone(const QModelIndex &index);
     void editCell(const QModelIndex &index);
 
     std::unique_ptr<class ZARNTableViewPrivate> const d;

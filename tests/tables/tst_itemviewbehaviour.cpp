@@ -155,7 +155,7 @@ void TestItemViewBehaviour::menuIsNotOwned()
         QCOMPARE(behaviour.menu(), &menu);
     }
     QVERIFY(!behaviour.menu());
-    behaviour.popUpMenu({}, {0, 0});
+    behaviour.popUpMenu(behaviour.menu(), {}, {0, 0});
     QVERIFY(!behaviour.contextMenuItem().isValid());
 }
 

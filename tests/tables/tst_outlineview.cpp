@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -194,6 +195,7 @@ private Q_SLOTS:
     void dragImageIsMadeInDragPrep();
     void resizeIsLiveUntilQuiet();
     void zapHidesTheMarkers();
+    void worksWithoutModelOrDelegate();
 };
 
 void TestOutlineView::initTestCase()
@@ -764,6 +766,31 @@ void TestOutlineView::zapHidesTheMarkers()
     QVERIFY(!f.view.rootIsDecorated());
     QVERIFY(!f.view.drawsBranchIndicators());
     QVERIFY(!inkIn(markerArea(u"a1"_s)));
+}
+
+void TestOutlineView::worksWithoutModelOrDelegate()
+{
+    DragOutlineView view;
+    auto menu = std::make_unique<QMenu>();
+    view.setMenu(menu.get());
+    menu.reset();
+    QCOMPARE(view.menu(), nullptr);
+    view.resize(120, 80);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_A})
+        QTest::keyClick(&view, key);
+    QTest::mousePress(view.viewport(), Qt::RightButton, {}, {5, 5});
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::MetaModifier, {5, 5});
+    view.setShowsIndentationMarker(false);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {5, 5});
+    view.startDrag(Qt::CopyAction);
+    view.hideColumn(0);
+    view.setEnabled(false);
+    view.setEnabled(true);
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^numberOfRows:  0 \\([0-9a-f]+\\)$"_s));
+    view.tile2();
+    QCOMPARE(view.numberOfColumns(), 0);
 }
 
 QTEST_MAIN(TestOutlineView)
