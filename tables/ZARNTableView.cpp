@@ -9,6 +9,7 @@
 #include "ZARNTableColumnList.h"
 #include "ZARNTableViewDataSource.h"
 #include "ZARNTableViewDelegate.h"
+#include "ZARNTextFieldCell.h"
 
 #include <Brixel/ZARNAttributedStringDrawing.h>
 #include <Brixel/ZARNGeometry.h>
@@ -300,6 +301,7 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     header->setColumnList(d->columns.get());
     setSelectionBehavior(SelectRows);
     setDropIndicatorShown(false);
+    setItemDelegate(new ZARNTextFieldCell(this));
     d->liveResizeTimer.setSingleShot(true);
     d->liveResizeTimer.setInterval(LiveResizeSettleInterval);
     connect(&d->liveResizeTimer, &QTimer::timeout, this, &ZARNTableView::viewDidEndLiveResize);
