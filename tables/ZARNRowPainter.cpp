@@ -8,6 +8,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+#include <cmath>
+
 namespace brixel {
 
 DropTarget dropTargetAt(int row, const QRect &rowRect, int y, bool rowAcceptsDrops, qreal offset)
@@ -50,10 +52,32 @@ RowPainter::RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleO
 
 void RowPainter::drawSelection(const QRectF &rowRect, const QImage &customImage)
 {
-    if (customImage.isNull() && m_colors.drawsGradient && !m_gradient)
+    if (!customImage.isNull()) {
+        drawRowHighlight(m_painter, rowRect, m_options.highlightStyle, m_colors, QImage(), customImage);
+        return;
+    }
+    if (m_colors.drawsGradient && !m_gradient)
         m_gradient = m_gradientSource ? m_gradientSource() : QImage();
-    drawRowHighlight(m_painter, rowRect, m_options.highlightStyle, m_colors, m_gradient.value_or(QImage()),
-                     customImage);
+    // Rows of one size look alike: the highlight is drawn once onto a transparent image and
+    // stamped onto each row, far cheaper than filling the shape with the stretched gradient
+    // again. Blending is source-over either way, so the pixels are the same.
+    const QPointF fraction(rowRect.x() - std::floor(rowRect.x()), rowRect.y() - std::floor(rowRect.y()));
+    const QRectF local(fraction, rowRect.size());
+    if (m_stamp.isNull() || m_stampRect != local) {
+        const qreal ratio = m_painter.device() ? m_painter.device()->devicePixelRatioF() : 1.0;
+        const QSize size(int(std::ceil(local.right())), int(std::ceil(local.bottom())));
+        if (size.isEmpty() || size.width() > maximumStampSize || size.height() > maximumStampSize) {
+            drawRowHighlight(m_painter, rowRect, m_options.highlightStyle, m_colors, m_gradient.value_or(QImage()), QImage());
+            return;
+        }
+        m_stamp = QImage(size * ratio, QImage::Format_ARGB32_Premultiplied);
+        m_stamp.setDevicePixelRatio(ratio);
+        m_stamp.fill(Qt::transparent);
+        QPainter stampPainter(&m_stamp);
+        drawRowHighlight(stampPainter, local, m_options.highlightStyle, m_colors, m_gradient.value_or(QImage()), QImage());
+        m_stampRect = local;
+    }
+    m_painter.drawImage(rowRect.topLeft() - fraction, m_stamp);
 }
 
 void RowPainter::drawCells(const QModelIndex &rowIndex, bool selected, int widenedColumn)

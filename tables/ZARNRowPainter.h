@@ -92,7 +92,8 @@ public:
     const SelectionColors &colors() const { return m_colors; }
 
     /// Draws one selected row's shape over \a rowRect (see drawRowHighlight()); a non-null
-    /// \a customImage replaces the outline and fill.
+    /// \a customImage replaces the outline and fill. Rows of the same size reuse the shape
+    /// drawn for the first of them.
     void drawSelection(const QRectF &rowRect, const QImage &customImage);
 
     /**
@@ -114,6 +115,9 @@ public:
     void drawDropBetweenRows(int upper, int lower, int rowCount, const std::function<QRectF(int)> &rectOfRow,
                              const QRectF &bounds, qreal offset);
 
+    /// Rows wider or taller than this are highlighted directly, without an intermediate image.
+    static constexpr int maximumStampSize = 8192;
+
     /// How far the cell of a column whose disclosure marker is hidden reaches to the left.
     static constexpr int hiddenMarkerWidth = 16;
 
@@ -132,6 +136,8 @@ private:
     CellNotice m_notice;
     GradientSource m_gradientSource;
     std::optional<QImage> m_gradient;
+    QImage m_stamp;      // the last highlight drawn, for rows of the same size
+    QRectF m_stampRect;  // the row rectangle it was drawn for, moved next to the origin
     SelectionColors m_colors;
 };
 
