@@ -138,7 +138,7 @@ bool ItemViewBehaviour::inDragPrep() const
 }
 
 void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction,
-                                  QPoint pressPosition, const DragRunner &run)
+                                  QPoint pressPosition, const DragHooks &hooks)
 {
     QAbstractItemModel *model = m_view->model();
     if (!model)
@@ -159,7 +159,7 @@ void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActio
     // contents as if unselected.
     area &= m_view->viewport()->rect();
     m_inDragPrep = true;
-    const QPixmap image = m_view->viewport()->grab(area);
+    const QPixmap image = hooks.image ? hooks.image(indexes, area) : m_view->viewport()->grab(area);
     m_inDragPrep = false;
 
     QPointer<QDrag> drag = new QDrag(m_view);
@@ -176,7 +176,7 @@ void ItemViewBehaviour::startDrag(const QModelIndexList &selected, Qt::DropActio
     else if (supported.testFlag(Qt::CopyAction) && !internalMove)
         action = Qt::CopyAction;
 
-    const Qt::DropAction result = run ? run(drag, supported, action) : drag->exec(supported, action);
+    const Qt::DropAction result = hooks.run ? hooks.run(drag, supported, action) : drag->exec(supported, action);
     if (result == Qt::MoveAction && (!internalMove || (drag && drag->target() == m_view->viewport())))
         removeMovedItems();
 }

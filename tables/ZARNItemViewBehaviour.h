@@ -79,8 +79,15 @@ public:
     /// A resize counts as live until this many milliseconds pass without another one.
     static constexpr int LiveResizeSettleInterval = 250;
 
-    /// Runs a drag (QDrag::exec by default) and answers the action the drop took.
-    using DragRunner = std::function<Qt::DropAction(QDrag *drag, Qt::DropActions supported, Qt::DropAction defaultAction)>;
+    /// How a view takes part in startDrag().
+    struct DragHooks
+    {
+        /// Draws the cells of \a indexes within \a area (viewport coordinates) as the drag
+        /// image, called with inDragPrep() true; empty: the viewport's drawing of the area.
+        std::function<QPixmap(const QModelIndexList &indexes, const QRect &area)> image;
+        /// Runs the drag and answers the action the drop took; empty: QDrag::exec().
+        std::function<Qt::DropAction(QDrag *drag, Qt::DropActions supported, Qt::DropAction defaultAction)> run;
+    };
 
     /// Serves \a view, which becomes its parent.
     explicit ItemViewBehaviour(QAbstractItemView *view);
@@ -119,17 +126,17 @@ public:
 
     /**
      * Starts a drag of \a selected (the view's selected indexes): the model's drag-enabled
-     * items, the model's mime data, and as the image the viewport's drawing of those cells,
-     * made with inDragPrep() true so that the view draws them without highlighted contents;
-     * the hot spot is \a pressPosition (viewport coordinates) in that image. The default
-     * action is \a defaultAction when \a supported allows it, else Copy (never Copy for an
-     * InternalMove view). \a run runs the drag (empty: QDrag::exec). After a Move, unless the
-     * view is InternalMove and the drop went elsewhere, the wholly selected rows are removed
-     * from the model, or every selected cell cleared in overwrite mode, as Qt's views do.
-     * Nothing happens without a model, draggable items or mime data.
+     * items, the model's mime data, and as the image the drawing of those cells within the
+     * viewport (\a hooks.image), made with inDragPrep() true so that the view draws them
+     * without highlighted contents; the hot spot is \a pressPosition (viewport coordinates)
+     * in that image. The default action is \a defaultAction when \a supported allows it,
+     * else Copy (never Copy for an InternalMove view). After a Move, unless the view is
+     * InternalMove and the drop went elsewhere, the wholly selected rows are removed from the
+     * model, or every selected cell cleared in overwrite mode, as Qt's views do. Nothing
+     * happens without a model, draggable items or mime data.
      */
     void startDrag(const QModelIndexList &selected, Qt::DropActions supported, Qt::DropAction defaultAction,
-                   QPoint pressPosition, const DragRunner &run = {});
+                   QPoint pressPosition, const DragHooks &hooks = {});
 
     /// Whether the view is being resized: from a resize until LiveResizeSettleInterval ms
     /// after the last one. False without a QApplication.

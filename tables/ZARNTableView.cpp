@@ -5,23 +5,46 @@
 #include "ZARNHighlightGradient.h"
 #include "ZARNItemViewBehaviour.h"
 #include "ZARNNSTableHeaderView.h"
+#include "ZARNRowPainter.h"
 #include "ZARNTableColumn.h"
 #include "ZARNTableColumnList.h"
 #include "ZARNTableViewDataSource.h"
 #include "ZARNTableViewDelegate.h"
+#include "ZARNTextFieldCell.h"
 
+#include <Brixel/ZARNAttributedStringDrawing.h>
+#include <Brixel/ZARNGeometry.h>
 #include <Brixel/ZARNNotification.h>
+#include <Brixel/ZARNTextTruncation.h>
 
+#include <QApplication>
 #include <QDrag>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
+#include <QVarLengthArray>
 
 namespace {
 
 ZARNShadow blackShadowWithAlpha(float alpha)
 {
     return ZARNShadow{{0.0f, -1.0f}, 1.0f, QColor::fromRgbF(0.0f, 0.0f, 0.0f, alpha)};
+}
+
+/// Rows a painting pass visits; a screenful fits without allocating.
+using RowList = QVarLengthArray<int, 128>;
+
+/// \a string in the empty-table message's default look: bold application font of 15 points,
+/// grey 0.5, centred.
+ZARNAttributedString emptyMessageText(const QString &string)
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(15.0);
+    font.setBold(true);
+    return ZARNAttributedString(string, {{ZARNFontAttributeName, font},
+                                         {ZARNForegroundColorAttributeName, QColor::fromRgbF(0.5f, 0.5f, 0.5f)},
+                                         {ZARNParagraphAlignmentAttributeName, QVariant::fromValue(Qt::Alignment(Qt::AlignHCenter))}});
 }
 
 /// The widget that takes the keyboard for \a editor (the end of its focus-proxy chain).
@@ -51,12 +74,6 @@ public:
         return brixel::Cell{index.row(), column};
     }
 
-    /// The column-0 item of \a row; invalid outside the rows or without a model.
-    QModelIndex rowItem(int row) const
-    {
-        return q->model() ? q->model()->index(row, 0, q->rootIndex()) : QModelIndex();
-    }
-
     /// The model index of a table cell; invalid outside the table.
     QModelIndex indexForCell(brixel::Cell cell) const
     {
@@ -64,6 +81,174 @@ public:
         if (!column || !q->model())
             return {};
         return q->model()->index(cell.row, column->modelColumn(), q->rootIndex());
+    }
+
+    bool isRowSelected(int row) const
+    {
+        return q->selectionModel() && q->selectionModel()->isRowSelected(row, q->rootIndex());
+    }
+
+    int rowCount() const { return q->model() ? q->model()->rowCount(q->rootIndex()) : 0; }
+
+    QModelIndex rowIndex(int row) const
+    {
+        return q->model() ? q->model()->index(row, 0, q->rootIndex()) : QModelIndex();
+    }
+
+    /// The shown rows that \a area touches, top to bottom.
+    RowList visibleRows(const QRect &area) const
+    {
+        RowList rows;
+        const QHeaderView *header = q->verticalHeader();
+        const int count = header->count();
+        if (count == 0)
+            return rows;
+        const int first = header->visualIndexAt(area.top());
+        int last = header->visualIndexAt(area.bottom());
+        if (first < 0)
+            return rows;
+        if (last < 0)
+            last = count - 1;
+        for (int visual = first; visual <= last; ++visual) {
+            const int row = header->logicalIndex(visual);
+            if (!header->isSectionHidden(row))
+                rows.append(row);
+        }
+        return rows;
+    }
+
+    QImage customHighlightImage(int row) const
+    {
+        return delegate ? delegate->tableViewCustomHighlightImageForRow(q, row).value_or(QImage()) : QImage();
+    }
+
+    brixel::RowPainter rowPainter(QPainter &painter) const
+    {
+        QStyleOptionViewItem option;
+        q->initViewItemOption(&option);
+        return brixel::RowPainter(
+            painter, *q, std::move(option), columns->tableColumns(), {highlightStyle, behaviour->inDragPrep(), true},
+            [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
+                if (delegate)
+                    delegate->tableViewWillDisplayCell(q, cell, column, index.row());
+            },
+            [this] { return q->highlightGradientImage(); });
+    }
+
+    void drawRow(brixel::RowPainter &rows, int row) const
+    {
+        rows.drawCells(rowIndex(row), isRowSelected(row));
+    }
+
+    /// Grid lines along the bottom of each row in \a rows and the right of each shown column,
+    /// as QTableView draws them, within \a area.
+    void drawGrid(QPainter &painter, const RowList &rows, QRect area) const
+    {
+        const QHeaderView *header = q->horizontalHeader();
+        const int right = header->length() - header->offset() - 1;
+        const int bottom = q->verticalHeader()->length() - q->verticalHeader()->offset() - 1;
+        area.setRight(std::min(area.right(), right));
+        area.setBottom(std::min(area.bottom(), bottom));
+        if (area.isEmpty())
+            return;
+        QStyleOptionViewItem option;
+        q->initViewItemOption(&option);
+        const auto colour = static_cast<QRgb>(q->style()->styleHint(QStyle::SH_Table_GridLineColor, &option, q));
+        painter.save();
+        painter.setPen(QPen(QColor::fromRgba(colour), 1, q->gridStyle()));
+        for (const int row : rows) {
+            const int y = q->rowViewportPosition(row) + q->rowHeight(row) - 1;
+            painter.drawLine(area.left(), y, area.right(), y);
+        }
+        for (ZARNTableColumn *column : columns->tableColumns()) {
+            const int x = q->columnViewportPosition(column->modelColumn()) + q->columnWidth(column->modelColumn()) - 1;
+            if (x >= area.left() && x <= area.right())
+                painter.drawLine(x, area.top(), x, area.bottom());
+        }
+        painter.restore();
+    }
+
+    /// The open context menu's row drawn highlighted over the rest, when it is selected.
+    void drawContextMenuHighlight(QPainter &painter, brixel::RowPainter &rows) const
+    {
+        const int row = q->contextMenuRow();
+        const QRect rect = q->rectOfRow(row);
+        if (rect.isEmpty() || !isRowSelected(row))
+            return;
+        rows.drawSelection(rect, customHighlightImage(row));
+        drawRow(rows, row);
+        if (q->showGrid())
+            drawGrid(painter, RowList{row}, rect);
+    }
+
+    void drawDropTarget(brixel::RowPainter &rows) const
+    {
+        const QRectF bounds = q->viewport()->rect();
+        switch (dropTarget.kind) {
+        case brixel::DropTarget::Kind::None:
+            return;
+        case brixel::DropTarget::Kind::OnView:
+            rows.drawDropOnView(bounds);
+            return;
+        case brixel::DropTarget::Kind::OnRow:
+            if (dropTarget.row < rowCount()) {
+                // The same question the outline view asks: a row with its own highlight image
+                // gets the frame on its full rectangle.
+                const bool hugsRow = delegate
+                    && !delegate->outlineViewCustomHighlightImageForItem(q, rowIndex(dropTarget.row)).value_or(QImage()).isNull();
+                rows.drawDropOnRow(q->rectOfRow(dropTarget.row), isRowSelected(dropTarget.row), hugsRow);
+            }
+            return;
+        case brixel::DropTarget::Kind::BetweenRows:
+            rows.drawDropBetweenRows(dropTarget.row, dropTarget.lowerRow, rowCount(),
+                                     [this](int row) { return QRectF(q->rectOfRow(row)); }, bounds, dropTarget.offset);
+            return;
+        }
+    }
+
+    void drawEmptyMessage(QPainter &painter) const
+    {
+        std::optional<ZARNAttributedString> message = emptyAttributedString;
+        if (!message) {
+            if (emptyString.isNull())
+                return;
+            message = emptyMessageText(emptyString);
+        }
+        const QRect viewport = q->viewport()->rect();
+        const float width = float(viewport.width());
+        const float height = ZARNAttributedStringHeightForWidth(*message, width - 20.0f);
+        if (height > float(viewport.height()))
+            return;
+        const ZARNRect rect = ZARNRectCenterOnRect({10.0f, 0.0f, width - 20.0f, height}, ZARNRect::fromQRectF(viewport));
+        brixel::drawAttributedString(painter, *message, rect.toQRectF(), true, false);
+    }
+
+    void setDropTarget(const brixel::DropTarget &target)
+    {
+        if (target == dropTarget)
+            return;
+        dropTarget = target;
+        q->viewport()->update();
+    }
+
+    /// The cells of the rows of \a indexes inside \a area on a transparent picture of the area.
+    QPixmap dragPicture(const QModelIndexList &indexes, const QRect &area) const
+    {
+        QList<int> rows;
+        for (const QModelIndex &index : indexes)
+            rows.append(index.row());
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        const qreal ratio = q->devicePixelRatioF();
+        QPixmap picture(area.size() * ratio);
+        picture.setDevicePixelRatio(ratio);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.translate(-area.topLeft());
+        brixel::RowPainter painterForRows = rowPainter(painter);
+        for (const int row : rows)
+            drawRow(painterForRows, row);
+        return picture;
     }
 
     ZARNTableView *const q;
@@ -74,6 +259,7 @@ public:
     quint32 highlightStyle = ZARNTableView::Rectangle;
     QString emptyString;
     std::optional<ZARNAttributedString> emptyAttributedString;
+    brixel::DropTarget dropTarget;
     QPoint pressPosition;
     QPersistentModelIndex editedIndex;
 };
@@ -87,6 +273,8 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     d->columns = std::make_unique<brixel::TableColumnList>(this, header);
     header->setColumnList(d->columns.get());
     setSelectionBehavior(SelectRows);
+    setDropIndicatorShown(false);
+    setItemDelegate(new ZARNTextFieldCell(this));
     d->behaviour = new brixel::ItemViewBehaviour(this);
     connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, &ZARNTableView::viewDidEndLiveResize);
     connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNTableView::userDefaultsDidChange);
@@ -159,6 +347,13 @@ void ZARNTableView::setEmptyAttributedString(const std::optional<ZARNAttributedS
 bool ZARNTableView::inDragPrep() const
 {
     return d->behaviour->inDragPrep();
+}
+
+QRect ZARNTableView::rectOfRow(int row) const
+{
+    if (row < 0 || row >= d->rowCount() || isRowHidden(row))
+        return {};
+    return QRect(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
 }
 
 int ZARNTableView::contextMenuRow() const
@@ -290,7 +485,7 @@ void ZARNTableView::mousePressEvent(QMouseEvent *event)
         return;
     }
     if (brixel::isControlClick(event)) {
-        const QModelIndex item = d->rowItem(rowAt(event->position().toPoint().y()));
+        const QModelIndex item = d->rowIndex(rowAt(event->position().toPoint().y()));
         d->behaviour->popUpMenu(menuForEvent(event), item, event->globalPosition().toPoint());
         return;
     }
@@ -335,7 +530,7 @@ void ZARNTableView::contextClick(QMouseEvent *event)
             brixel::selectRowAlone(this, model()->index(row, column, rootIndex()));
         }
     }
-    d->behaviour->popUpMenu(menu(), d->rowItem(row), event->globalPosition().toPoint());
+    d->behaviour->popUpMenu(menu(), d->rowIndex(row), event->globalPosition().toPoint());
 }
 
 void ZARNTableView::resizeEvent(QResizeEvent *event)
@@ -343,6 +538,56 @@ void ZARNTableView::resizeEvent(QResizeEvent *event)
     QTableView::resizeEvent(event);
     scheduleDelayedItemsLayout();
     d->behaviour->noteResize();
+}
+
+void ZARNTableView::paintEvent(QPaintEvent *event)
+{
+    const QRect area = event->rect();
+    if (d->delegate)
+        d->delegate->tableViewWillDrawRect(this, area);
+    QPainter painter(viewport());
+    brixel::RowPainter rows = d->rowPainter(painter);
+    const RowList shown = d->visibleRows(area);
+    // All shapes first: a shape may reach into its neighbours' rows by its antialiased edge.
+    for (const int row : shown) {
+        if (d->isRowSelected(row))
+            rows.drawSelection(rectOfRow(row), d->customHighlightImage(row));
+    }
+    for (const int row : shown)
+        d->drawRow(rows, row);
+    if (showGrid())
+        d->drawGrid(painter, shown, area);
+    d->drawContextMenuHighlight(painter, rows);
+    d->drawDropTarget(rows);
+    if (d->rowCount() == 0)
+        d->drawEmptyMessage(painter);
+}
+
+void ZARNTableView::dragMoveEvent(QDragMoveEvent *event)
+{
+    QTableView::dragMoveEvent(event);
+    if (!event->isAccepted()) {
+        d->setDropTarget({});
+        return;
+    }
+    // Only a point over a cell is on a row; Qt drops anything else onto the whole view.
+    const QPoint position = event->position().toPoint();
+    const QModelIndex index = indexAt(position);
+    const int row = index.isValid() ? index.row() : -1;
+    d->setDropTarget(brixel::dropTargetAt(row, rectOfRow(row), position.y(),
+                                          index.flags().testFlag(Qt::ItemIsDropEnabled), 0.0));
+}
+
+void ZARNTableView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    d->setDropTarget({});
+    QTableView::dragLeaveEvent(event);
+}
+
+void ZARNTableView::dropEvent(QDropEvent *event)
+{
+    d->setDropTarget({});
+    QTableView::dropEvent(event);
 }
 
 void ZARNTableView::viewDidEndLiveResize()
@@ -398,10 +643,12 @@ void ZARNTableView::editCell(const QModelIndex &index)
 
 void ZARNTableView::startDrag(Qt::DropActions supportedActions)
 {
-    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition,
-                            [this](QDrag *drag, Qt::DropActions supported, Qt::DropAction action) {
-                                return execDrag(drag, supported, action);
-                            });
+    brixel::ItemViewBehaviour::DragHooks hooks;
+    hooks.image = [this](const QModelIndexList &indexes, const QRect &area) { return d->dragPicture(indexes, area); };
+    hooks.run = [this](QDrag *drag, Qt::DropActions supported, Qt::DropAction action) {
+        return execDrag(drag, supported, action);
+    };
+    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition, hooks);
 }
 
 Qt::DropAction ZARNTableView::execDrag(QDrag *drag, Qt::DropActions supportedActions, Qt::DropAction defaultAction)

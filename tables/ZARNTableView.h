@@ -48,6 +48,16 @@ class ZARNTableViewDelegate;
  * table->setHighlightStyle(ZARNTableView::Capsule);
  * table->setEmptyString(tr("No downloads"));
  * \endcode
+ *
+ * The table paints its rows itself (see paintEvent()): selected rows get the highlight shape
+ * of highlightStyle() in the selection colours (selectionColor() and friends), filled with
+ * highlightGradientImage() while the table is focused in the active window, and their text
+ * cells draw white, bold, shadowed text. Spanned cells (setSpan()) and alternating row colours
+ * are not drawn: every cell draws in its own rectangle over the viewport's background.
+ *
+ * While a drag hovers over the table, the place it would drop is marked: a rounded frame on a
+ * row, a line with a circle between rows, or a frame around the whole view. Qt's own drop
+ * indicator is off.
  */
 class BRIXEL_EXPORT ZARNTableView : public QTableView
 {
@@ -102,6 +112,10 @@ public:
     /// True only while the picture of dragged rows is being made, so that the rows are drawn
     /// without highlighted cell contents in it.
     bool inDragPrep() const;
+
+    /// The rectangle of \a row across the viewport, in viewport coordinates: empty for a row
+    /// that does not exist or is hidden.
+    QRect rectOfRow(int row) const;
 
     /// The row the open context menu was popped up for; -1 while no menu is open or when the
     /// click was below the last row.
@@ -192,8 +206,25 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
     /**
-     * Makes the picture of the dragged cells from the view's own drawing (inDragPrep() is
-     * true meanwhile), then runs the drag through execDrag(). After a move out of the view
+     * Draws the rows in the dirty area: the delegate's tableViewWillDrawRect() first, then the
+     * selection shape of every selected row, the cells of every row, the grid when showGrid()
+     * (in the style's grid colour), the context-menu row again over its highlight when it is
+     * selected, the drop mark, and, while the model has no rows, emptyAttributedString() or
+     * emptyString() centred on the viewport (not drawn when it is taller than the viewport).
+     * Hidden rows and columns are skipped. QTableView's own painting is not used.
+     */
+    void paintEvent(QPaintEvent *event) override;
+
+    /// Marks where the drag would drop (on a row, between two rows or on the whole view), as
+    /// Qt would place it; nothing when the drop is refused.
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+    /**
+     * Makes the picture of the dragged rows: their cells as the table draws them, on a
+     * transparent background, with inDragPrep() true meanwhile so that selected rows show
+     * their plain contents. Then runs the drag through execDrag(). After a move out of the view
      * (or any move unless the mode is InternalMove), the moved rows are removed from the
      * model, or their cells cleared in overwrite mode, as QAbstractItemView does.
      */
@@ -214,6 +245,8 @@ protected Q_SLOTS:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
+    friend class ZARNTableViewPrivate;
+
     void contextClick(QMouseEvent *event);
     void editCell(const QModelIndex &index);
 

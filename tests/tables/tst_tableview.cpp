@@ -4,6 +4,7 @@
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTableViewDataSource.h>
 #include <Brixel/ZARNTableViewDelegate.h>
+#include <Brixel/ZARNTextFieldCell.h>
 
 #include <QDrag>
 #include <QLineEdit>
@@ -89,17 +90,25 @@ public:
         ++liveResizeEnds;
         ZARNTableView::viewDidEndLiveResize();
     }
-    void paintEvent(QPaintEvent *event) override
-    {
-        prepWhilePainting.append(inDragPrep());
-        ZARNTableView::paintEvent(event);
-    }
 
     Qt::DropAction dropResult = Qt::IgnoreAction;
     QSize dragPictureSize;
     bool prepAtExec = true;
-    QList<bool> prepWhilePainting;
     int liveResizeEnds = 0;
+};
+
+/// Records, for each cell it draws, whether the view was preparing a drag picture and whether
+/// the contents were to be drawn highlighted.
+class RecordingCell : public ZARNTextFieldCell
+{
+public:
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        paints.append({static_cast<const ZARNTableView *>(option.widget)->inDragPrep(),
+                       option.state.testFlag(QStyle::State_Selected)});
+        ZARNTextFieldCell::paint(painter, option, index);
+    }
+    mutable QList<std::pair<bool, bool>> paints;
 };
 
 QList<int> selectedRows(const QTableView &view)
@@ -467,14 +476,16 @@ void TestTableView::dragPicture()
     QRect picture;
     for (int row : selected)
         picture |= view.visualRect(model.index(row, 0)) | view.visualRect(model.index(row, 1));
-    view.prepWhilePainting.clear();
+    RecordingCell cell;
+    view.setItemDelegate(&cell);
 
     view.startDrag(Qt::CopyAction | Qt::MoveAction);
 
     QVERIFY(!view.inDragPrep());
     QCOMPARE(view.dragPictureSize, selected.isEmpty() ? QSize() : picture.intersected(view.viewport()->rect()).size());
-    QCOMPARE(view.prepWhilePainting.isEmpty(), selected.isEmpty());
-    QVERIFY(!view.prepWhilePainting.contains(false)); // every paint of the picture is prepared
+    // The picture holds the dragged rows' cells, drawn prepared and not highlighted.
+    QCOMPARE(cell.paints.size(), selected.size() * 2);
+    QVERIFY(std::all_of(cell.paints.cbegin(), cell.paints.cend(), [](auto paint) { return paint == std::pair(true, false); }));
     QVERIFY(selected.isEmpty() || !view.prepAtExec);
     QStringList texts;
     for (int row = 0; row < model.rowCount(); ++row)

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+// A full repaint of a 1000 x 800 table over 100,000 rows with every visible row selected,
+// beside QTableView painting the same model, size and selection.
+#include "BenchHarness.h"
+
+#include <Brixel/ZARNTableView.h>
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QHeaderView>
+#include <QImage>
+#include <QTableView>
+
+namespace {
+
+/// Shows \a view focused in the active window.
+void activate(QWidget &view)
+{
+    view.show();
+    view.activateWindow();
+    view.setFocus();
+    QElapsedTimer timer;
+    timer.start();
+    while (!view.isActiveWindow() && timer.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    if (!view.isActiveWindow())
+        qFatal("the window did not become active");
+}
+
+/// 100,000 rows of 5 short strings, made on request.
+class StringModel : public QAbstractTableModel
+{
+public:
+    int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : 100000; }
+    int columnCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : 5; }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return {};
+        return QStringLiteral("Item %1 of column %2").arg(index.row()).arg(index.column());
+    }
+};
+
+/// The view at 1000 x 800, focused in the active window, every visible row selected.
+void prepare(QTableView &view, QAbstractItemModel &model)
+{
+    view.setModel(&model);
+    view.resize(1000, 800);
+    for (int column = 0; column < 5; ++column)
+        view.setColumnWidth(column, 190);
+    activate(view);
+    const int last = view.rowAt(view.viewport()->height() - 1);
+    view.selectionModel()->select(QItemSelection(model.index(0, 0), model.index(last < 0 ? model.rowCount() - 1 : last, 4)),
+                                  QItemSelectionModel::Select);
+}
+
+double repaintNanoseconds(QTableView &view)
+{
+    activate(view);
+    QImage image(view.viewport()->size(), QImage::Format_ARGB32_Premultiplied);
+    return brixelbench::nanosecondsPerCall([&] { view.viewport()->render(&image); }, 200, 5);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    StringModel model;
+
+    ZARNTableView table;
+    table.setHighlightStyle(ZARNTableView::Capsule);
+    prepare(table, model);
+    QTableView plain;
+    prepare(plain, model);
+
+    const double ours = repaintNanoseconds(table);
+    const double theirs = repaintNanoseconds(plain);
+    brixelbench::report("ZARNTableView repaint 1000x800, rows selected", ours, "QTableView repaint, same", theirs);
+    return 0;
+}
