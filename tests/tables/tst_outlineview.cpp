@@ -169,8 +169,6 @@ private Q_SLOTS:
     void initTestCase();
     void defaults_data();
     void defaults();
-    void collapseAnswer_data();
-    void collapseAnswer();
     void keys_data();
     void keys();
     void clicks_data();
@@ -233,31 +231,6 @@ void TestOutlineView::defaults()
     QFETCH(ViewCheck, check);
     const ZARNOutlineView view;
     QVERIFY(check(view));
-}
-
-void TestOutlineView::collapseAnswer_data()
-{
-    QTest::addColumn<bool>("forDeposits");
-    QTest::addColumn<bool>("forFailedDeposits");
-    QTest::addColumn<bool>("deposited");
-    QTest::addColumn<bool>("expected");
-
-    QTest::newRow("default, successful drop") << false << true << true << false;
-    QTest::newRow("default, failed drop") << false << true << false << true;
-    QTest::newRow("swapped, successful drop") << true << false << true << true;
-    QTest::newRow("swapped, failed drop") << true << false << false << false;
-}
-
-void TestOutlineView::collapseAnswer()
-{
-    QFETCH(bool, forDeposits);
-    QFETCH(bool, forFailedDeposits);
-    QFETCH(bool, deposited);
-    QFETCH(bool, expected);
-    ZARNOutlineView view;
-    view.setShouldCollapseAutoExpandedItemsForDeposits(forDeposits);
-    view.setShouldCollapseAutoExpandedItemsForFailedDeposits(forFailedDeposits);
-    QCOMPARE(view.shouldCollapseAutoExpandedItemsForDeposited(deposited), expected);
 }
 
 void TestOutlineView::keys_data()
@@ -592,23 +565,27 @@ void TestOutlineView::activationRemakesTheGradient()
 void TestOutlineView::drops_data()
 {
     QTest::addColumn<bool>("collapseForDeposits");
+    QTest::addColumn<bool>("collapseForFailedDeposits");
     QTest::addColumn<QString>("ending");
     QTest::addColumn<bool>("openedStayOpen");
 
-    QTest::newRow("successful drop keeps them by default") << false << u"drop"_s << true;
-    QTest::newRow("successful drop, collapsing") << true << u"drop"_s << false;
-    QTest::newRow("refused drop collapses them") << false << u"refused"_s << false;
-    QTest::newRow("leaving the view collapses them") << false << u"leave"_s << false;
+    QTest::newRow("successful drop keeps them by default") << false << true << u"drop"_s << true;
+    QTest::newRow("successful drop, collapsing") << true << true << u"drop"_s << false;
+    QTest::newRow("refused drop collapses them by default") << false << true << u"refused"_s << false;
+    QTest::newRow("refused drop, keeping") << false << false << u"refused"_s << true;
+    QTest::newRow("leaving the view collapses them") << false << true << u"leave"_s << false;
 }
 
 void TestOutlineView::drops()
 {
     QFETCH(bool, collapseForDeposits);
+    QFETCH(bool, collapseForFailedDeposits);
     QFETCH(QString, ending);
     QFETCH(bool, openedStayOpen);
     Fixture f;
     f.view.setDragDropMode(QAbstractItemView::DragDrop);
     f.view.setShouldCollapseAutoExpandedItemsForDeposits(collapseForDeposits);
+    f.view.setShouldCollapseAutoExpandedItemsForFailedDeposits(collapseForFailedDeposits);
     f.view.expand(f.item(u"a"_s));  // opened by the user before the drag
     std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
     QMimeData refused;
