@@ -25,7 +25,7 @@ QList<GalleryPage> galleryPages()
     return {
         {QObject::tr("Values"), createValuesPage},
         {QObject::tr("Drawing"), createDrawingPage},
-        placeholder(QObject::tr("Tables")),
+        {QObject::tr("Tables"), createTablesPage},
         placeholder(QObject::tr("Controls")),
         placeholder(QObject::tr("Windows")),
         placeholder(QObject::tr("Dates")),

@@ -18,6 +18,7 @@ struct GalleryPage
 /// The pages built so far; each shows one layer of the library.
 QWidget *createValuesPage();
 QWidget *createDrawingPage();
+QWidget *createTablesPage();
 
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();
