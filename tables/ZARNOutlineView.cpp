@@ -5,15 +5,23 @@
 #include "ZARNItemViewBehaviour.h"
 #include "ZARNNSTableHeaderView.h"
 #include "ZARNOutlineViewDelegate.h"
+#include "ZARNRowPainter.h"
+#include "ZARNTableColumn.h"
 #include "ZARNTableColumnList.h"
 #include "ZARNTextFieldCell.h"
+
+#include <Brixel/ZARNNSImageAdditions.h>
 
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QPainter>
+#include <QScopeGuard>
 #include <QScrollBar>
+
+#include <cmath>
 
 namespace {
 
@@ -64,6 +72,15 @@ int countShownRows(const QTreeView &view, const QModelIndex &parent)
     return rows;
 }
 
+/// How many ancestors \a item has below \a root: 0 for a top-level item.
+int levelOf(QModelIndex item, const QModelIndex &root)
+{
+    int level = 0;
+    for (item = item.parent(); item.isValid() && item != root; item = item.parent())
+        ++level;
+    return level;
+}
+
 } // namespace
 
 class ZARNOutlineViewPrivate
@@ -79,6 +96,19 @@ public:
     void applyEnabledState(bool enabled);
     QList<ZARNTextFieldCell *> textCells() const;
     int outlineColumnIndex() const;
+
+    QRect rowRect(const QModelIndex &item) const;
+    bool isRowSelected(const QModelIndex &item) const;
+    QImage customHighlightImage(const QModelIndex &item) const;
+    brixel::RowPainter rowPainter(QPainter &painter) const;
+    void drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item);
+    void drawRow(brixel::RowPainter &rows, const QRect &rowRect, const QModelIndex &item);
+    void drawSelection(brixel::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const;
+    void drawIndicator(QPainter &painter, const QModelIndex &item);
+    void drawContextMenuHighlight(brixel::RowPainter &rows);
+    void drawDropTarget(brixel::RowPainter &rows) const;
+    void setDropTarget(const brixel::DropTarget &target, QList<QPersistentModelIndex> rows);
+    QPixmap dragPicture(const QModelIndexList &indexes, const QRect &area);
 
     ZARNOutlineView *const q;
     brixel::ItemViewBehaviour *const behaviour;
@@ -98,6 +128,18 @@ public:
     qreal clickShift = 0.0;
     // True while an event is with QTreeView, which may call the press handler itself.
     bool forwardingMouse = false;
+
+    // The rows of one QTreeView::paintEvent() share one painter and its row painter.
+    bool painting = false;
+    std::optional<brixel::RowPainter> pass;
+    // The library's disclosure artwork, looked up once per painting pass.
+    std::optional<QImage> expandedArt;
+    std::optional<QImage> collapsedArt;
+
+    // The drop a drag over the view would make. Its rows number dropRows: the row under the
+    // drag and the rows next to it that exist.
+    brixel::DropTarget dropTarget;
+    QList<QPersistentModelIndex> dropRows;
 
     bool trackingDrop = false;
     QList<QPersistentModelIndex> autoExpanded;
@@ -181,6 +223,155 @@ int ZARNOutlineViewPrivate::outlineColumnIndex() const
     return logical < 0 ? 0 : columns->columnIndex(columns->columnForModelColumn(logical));
 }
 
+QRect ZARNOutlineViewPrivate::rowRect(const QModelIndex &item) const
+{
+    const ZARNTableColumn *first = columns->columnAt(0);
+    const QRect cell = first && item.isValid() ? q->visualRect(item.siblingAtColumn(first->modelColumn())) : QRect();
+    return cell.isValid() ? QRect(0, cell.y(), q->viewport()->width(), cell.height()) : QRect();
+}
+
+bool ZARNOutlineViewPrivate::isRowSelected(const QModelIndex &item) const
+{
+    return q->selectionModel() && q->selectionModel()->rowIntersectsSelection(item.row(), item.parent());
+}
+
+QImage ZARNOutlineViewPrivate::customHighlightImage(const QModelIndex &item) const
+{
+    return delegate ? delegate->outlineViewCustomHighlightImageForItem(q, item).value_or(QImage()) : QImage();
+}
+
+brixel::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter) const
+{
+    QStyleOptionViewItem option;
+    q->initViewItemOption(&option);
+    // The text-cell inset keeps clear of the disclosure markers' column.
+    const brixel::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), outlineColumnIndex() != 0};
+    return brixel::RowPainter(
+        painter, *q, std::move(option), columns->tableColumns(), options,
+        [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
+            if (delegate)
+                delegate->outlineViewWillDisplayCell(q, cell, column, index.siblingAtColumn(0));
+        },
+        [this] { return q->highlightGradientImage(); });
+}
+
+void ZARNOutlineViewPrivate::drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item)
+{
+    if (!painting) {
+        brixel::RowPainter rows = rowPainter(painter);
+        drawRow(rows, rowRect, item);
+        return;
+    }
+    if (!pass)
+        pass.emplace(rowPainter(painter));
+    drawRow(*pass, rowRect, item);
+}
+
+void ZARNOutlineViewPrivate::drawRow(brixel::RowPainter &rows, const QRect &rowRect, const QModelIndex &item)
+{
+    if (delegate)
+        delegate->outlineViewWillDrawItem(q, item, rowRect);
+    const bool selected = isRowSelected(item);
+    if (selected)
+        drawSelection(rows, rowRect, item);
+    const bool showsMarker = showsMarkerFor(item);
+    if (showsMarker)
+        drawIndicator(rows.painter(), item);
+    rows.drawCells(item, selected, showsMarker ? -1 : outlineColumnIndex());
+}
+
+void ZARNOutlineViewPrivate::drawSelection(brixel::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const
+{
+    if (highlightFollowsIndentation) {
+        const bool expandable = q->model()->hasChildren(item);
+        rowRect.setLeft(rowRect.left() + brixel::indentationOffset(levelOf(item, q->rootIndex()), q->indentation(), expandable));
+    }
+    rows.drawSelection(rowRect, customHighlightImage(item));
+}
+
+void ZARNOutlineViewPrivate::drawIndicator(QPainter &painter, const QModelIndex &item)
+{
+    const ZARNTableColumn *first = columns->columnAt(0);
+    if (!drawsBranchIndicators || !first || !q->model()->hasChildren(item))
+        return;
+    const bool expanded = q->isExpanded(item);
+    std::optional<QImage> image;
+    if (delegate) {
+        image = expanded ? delegate->outlineViewExpandedIndicatorForItem(q, item)
+                         : delegate->outlineViewCollapsedIndicatorForItem(q, item);
+    }
+    if (!image) {
+        std::optional<QImage> &art = expanded ? expandedArt : collapsedArt;
+        if (!art)
+            art = imageNamed(expanded ? QStringLiteral("expanded") : QStringLiteral("collapsed"), QStringLiteral("ZARNOutlineView"));
+        image = art;
+    }
+    if (image->isNull())
+        return;
+    // Right against the left edge of the first column's cell, centred on it vertically.
+    const QRect frame = q->visualRect(item.siblingAtColumn(first->modelColumn()));
+    const QSizeF size = image->deviceIndependentSize();
+    const qreal x = std::trunc(frame.x() - size.width());
+    const qreal y = frame.y() + std::trunc((frame.height() - size.height()) * 0.5);
+    painter.drawImage(QPointF(x, y), *image);
+}
+
+void ZARNOutlineViewPrivate::drawContextMenuHighlight(brixel::RowPainter &rows)
+{
+    const QModelIndex item = behaviour->contextMenuItem();
+    const QRect rect = rowRect(item);
+    if (rect.isEmpty() || !isRowSelected(item))
+        return;
+    drawRow(rows, rect, item);
+}
+
+void ZARNOutlineViewPrivate::drawDropTarget(brixel::RowPainter &rows) const
+{
+    const auto rectOfRow = [this](int row) {
+        return row >= 0 && row < dropRows.size() ? QRectF(rowRect(dropRows[row])) : QRectF();
+    };
+    switch (dropTarget.kind) {
+    case brixel::DropTarget::Kind::None:
+        return;
+    case brixel::DropTarget::Kind::OnView:
+        rows.drawDropOnView(q->viewport()->rect());
+        return;
+    case brixel::DropTarget::Kind::OnRow:
+        // A custom highlight image does not change the outline's drop frame.
+        if (const QRectF rect = rectOfRow(dropTarget.row); !rect.isEmpty())
+            rows.drawDropOnRow(rect, isRowSelected(dropRows[dropTarget.row]), false);
+        return;
+    case brixel::DropTarget::Kind::BetweenRows:
+        rows.drawDropBetweenRows(dropTarget.row, dropTarget.lowerRow, int(dropRows.size()), rectOfRow,
+                                 q->viewport()->rect(), dropTarget.offset);
+        return;
+    }
+}
+
+void ZARNOutlineViewPrivate::setDropTarget(const brixel::DropTarget &target, QList<QPersistentModelIndex> rows)
+{
+    if (target == dropTarget && rows == dropRows)
+        return;
+    dropTarget = target;
+    dropRows = std::move(rows);
+    q->viewport()->update();
+}
+
+QPixmap ZARNOutlineViewPrivate::dragPicture(const QModelIndexList &indexes, const QRect &area)
+{
+    QList<QPersistentModelIndex> items;
+    for (const QModelIndex &index : indexes) {
+        const QPersistentModelIndex item = index.siblingAtColumn(0);
+        if (!items.contains(item))
+            items.append(item);
+    }
+    return brixel::viewportPicture(*q, area, [&](QPainter &painter) {
+        brixel::RowPainter rows = rowPainter(painter);
+        for (const QPersistentModelIndex &item : std::as_const(items))
+            rows.drawCells(item, isRowSelected(item), showsMarkerFor(item) ? -1 : outlineColumnIndex());
+    });
+}
+
 void ZARNOutlineViewPrivate::applyEnabledState(bool enabled)
 {
     if (!enabled)
@@ -216,6 +407,7 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
     d->columns = new brixel::TableColumnList(this, columnHeader, this);
     columnHeader->setColumnList(d->columns);
     setItemDelegate(new ZARNTextFieldCell(this));
+    setDropIndicatorShown(false);
 
     connect(this, &QTreeView::expanded, this, [this](const QModelIndex &item) {
         if (d->trackingDrop)
@@ -551,7 +743,22 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
 {
     if (d->delegate)
         d->delegate->tableViewWillDrawRect(this, event->rect());
-    QTreeView::paintEvent(event);
+    {
+        d->painting = true;
+        const auto endPass = qScopeGuard([this] {
+            d->pass.reset();
+            d->expandedArt.reset();
+            d->collapsedArt.reset();
+            d->painting = false;
+        });
+        QTreeView::paintEvent(event);
+    }
+    if (!d->behaviour->contextMenuItem().isValid() && d->dropTarget.kind == brixel::DropTarget::Kind::None)
+        return;
+    QPainter painter(viewport());
+    brixel::RowPainter rows = d->rowPainter(painter);
+    d->drawContextMenuHighlight(rows);
+    d->drawDropTarget(rows);
 }
 
 void ZARNOutlineView::resizeEvent(QResizeEvent *event)
@@ -563,7 +770,9 @@ void ZARNOutlineView::resizeEvent(QResizeEvent *event)
 
 void ZARNOutlineView::startDrag(Qt::DropActions supportedActions)
 {
-    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition);
+    brixel::ItemViewBehaviour::DragHooks hooks;
+    hooks.image = [this](const QModelIndexList &indexes, const QRect &area) { return d->dragPicture(indexes, area); };
+    d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition, hooks);
 }
 
 // Items that open while a drag is over the view were opened by the drag (Qt's auto-expand,
@@ -576,20 +785,55 @@ void ZARNOutlineView::dragEnterEvent(QDragEnterEvent *event)
     d->trackingDrop = event->isAccepted();
 }
 
+void ZARNOutlineView::dragMoveEvent(QDragMoveEvent *event)
+{
+    QTreeView::dragMoveEvent(event);
+    const QPoint position = event->position().toPoint();
+    const QModelIndex item = d->rowItemAt(position);
+    if (!event->isAccepted()) {
+        d->setDropTarget({}, {});
+        return;
+    }
+    if (!item.isValid()) {
+        d->setDropTarget({brixel::DropTarget::Kind::OnView}, {});
+        return;
+    }
+    // The row under the drag and those next to it, numbered from the one above (if any).
+    QList<QPersistentModelIndex> rows;
+    if (const QModelIndex above = indexAbove(item); above.isValid())
+        rows.append(above);
+    const int row = int(rows.size());
+    rows.append(item);
+    if (const QModelIndex below = indexBelow(item); below.isValid())
+        rows.append(below);
+    // A line between rows starts where the item's own cell does, after its indentation.
+    const ZARNTableColumn *first = d->columns->columnAt(0);
+    const qreal offset = first ? visualRect(item.siblingAtColumn(first->modelColumn())).x() : 0.0;
+    const brixel::DropTarget target = brixel::dropTargetAt(row, d->rowRect(item), position.y(),
+                                                           item.flags().testFlag(Qt::ItemIsDropEnabled), offset);
+    d->setDropTarget(target, std::move(rows));
+}
+
 void ZARNOutlineView::dragLeaveEvent(QDragLeaveEvent *event)
 {
+    d->setDropTarget({}, {});
     QTreeView::dragLeaveEvent(event);
     d->finishDrop(false);
 }
 
 void ZARNOutlineView::dropEvent(QDropEvent *event)
 {
+    d->setDropTarget({}, {});
     QTreeView::dropEvent(event);
     d->finishDrop(event->isAccepted());
 }
 
-void ZARNOutlineView::drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const
+void ZARNOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &options, const QModelIndex &index) const
 {
-    if (d->drawsBranchIndicators)
-        QTreeView::drawBranches(painter, rect, index);
+    const QRect rowRect(0, options.rect.y(), viewport()->width(), options.rect.height());
+    d->drawRow(*painter, rowRect, index.siblingAtColumn(0));
+}
+
+void ZARNOutlineView::drawBranches(QPainter *, const QRect &, const QModelIndex &) const
+{
 }

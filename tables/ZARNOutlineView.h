@@ -110,7 +110,7 @@ public:
     /// Whether the view takes keyboard focus: isEnabled().
     bool acceptsFirstResponder() const;
 
-    /// Whether Qt's own branch indicators are drawn; zapIndentationMarker() turns them off.
+    /// Whether the disclosure markers are drawn; zapIndentationMarker() turns them off.
     bool drawsBranchIndicators() const;
     void setDrawsBranchIndicators(bool draws);
 
@@ -189,8 +189,12 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void startDrag(Qt::DropActions supportedActions) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
+    /// Draws the row of \a index: its selection shape, disclosure marker and cells.
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &options, const QModelIndex &index) const override;
+    /// Draws nothing: drawRow() draws the disclosure markers.
     void drawBranches(QPainter *painter, const QRect &rect, const QModelIndex &index) const override;
 
 private:

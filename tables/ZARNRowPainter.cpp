@@ -29,6 +29,18 @@ DropTarget dropTargetAt(int row, const QRect &rowRect, int y, bool rowAcceptsDro
     return {DropTarget::Kind::OnView};
 }
 
+QPixmap viewportPicture(const QAbstractItemView &view, const QRect &area, const std::function<void(QPainter &)> &draw)
+{
+    const qreal ratio = view.devicePixelRatioF();
+    QPixmap picture(area.size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.translate(-area.topLeft());
+    draw(painter);
+    return picture;
+}
+
 RowPainter::RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleOptionViewItem option,
                        const QList<ZARNTableColumn *> &columns, Options options, CellNotice notice,
                        GradientSource gradient)

@@ -6,6 +6,7 @@
 
 #include <QList>
 #include <QModelIndex>
+#include <QPixmap>
 #include <QStyleOptionViewItem>
 
 #include <functional>
@@ -39,6 +40,14 @@ struct DropTarget
  * right of the row's left edge.
  */
 BRIXEL_EXPORT DropTarget dropTargetAt(int row, const QRect &rowRect, int y, bool rowAcceptsDrops, qreal offset);
+
+/**
+ * A transparent picture of \a area of \a view's viewport (viewport coordinates) at the
+ * view's pixel ratio, with what \a draw paints into it at viewport positions: the base of a
+ * drag image. An empty area gives an empty picture.
+ */
+BRIXEL_EXPORT QPixmap viewportPicture(const QAbstractItemView &view, const QRect &area,
+                                      const std::function<void(QPainter &)> &draw);
 
 /**
  * Draws the rows of a table or outline view for one painting pass: the selection shapes, the
@@ -90,6 +99,9 @@ public:
     /// The colours of the pass: selectionColor(), selectionOutlineColor() and
     /// selectionShouldDrawGradient() of the view.
     const SelectionColors &colors() const { return m_colors; }
+
+    /// The painter the pass draws with.
+    QPainter &painter() const { return m_painter; }
 
     /// Draws one selected row's shape over \a rowRect (see drawRowHighlight()); a non-null
     /// \a customImage replaces the outline and fill. Rows of the same size reuse the shape

@@ -239,16 +239,11 @@ public:
             rows.append(index.row());
         std::sort(rows.begin(), rows.end());
         rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-        const qreal ratio = q->devicePixelRatioF();
-        QPixmap picture(area.size() * ratio);
-        picture.setDevicePixelRatio(ratio);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.translate(-area.topLeft());
-        brixel::RowPainter painterForRows = rowPainter(painter);
-        for (const int row : rows)
-            drawRow(painterForRows, row);
-        return picture;
+        return brixel::viewportPicture(*q, area, [&](QPainter &painter) {
+            brixel::RowPainter painterForRows = rowPainter(painter);
+            for (const int row : rows)
+                drawRow(painterForRows, row);
+        });
     }
 
     ZARNTableView *const q;

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNOutlineView.h>
+#include <Brixel/ZARNOutlineViewDelegate.h>
+
+#include <BrixelTest.h>
+
+#include <QHeaderView>
+#include <QStandardItemModel>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MarkerDelegate : public ZARNOutlineViewDelegate
+{
+public:
+    std::optional<bool> outlineViewShouldShowIndentationMarkerForItem(ZARNOutlineView *, const QModelIndex &) override
+    {
+        return showsMarker;
+    }
+    std::optional<QImage> outlineViewCollapsedIndicatorForItem(ZARNOutlineView *, const QModelIndex &) override
+    {
+        return indicator;
+    }
+    std::optional<bool> showsMarker;
+    std::optional<QImage> indicator;
+};
+
+/// An active, focused outline of one column on white: "a" (children "a1", "a2") and "b".
+struct Outline
+{
+    Outline()
+    {
+        auto *a = new QStandardItem(u"a"_s);
+        a->appendRow(new QStandardItem(u"a1"_s));
+        a->appendRow(new QStandardItem(u"a2"_s));
+        model.appendRow(a);
+        model.appendRow(new QStandardItem(u"b"_s));
+        QPalette palette = view.palette();
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::Highlight, QColor(50, 100, 200));
+        view.setPalette(palette);
+        view.setModel(&model);
+        view.setDelegate(&delegate);
+        view.setFrameShape(QFrame::NoFrame);
+        view.header()->hide();
+        view.resize(200, 120);
+        view.show();
+        view.activateWindow();
+        view.setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+    }
+
+    QModelIndex item(const QString &name) const { return model.findItems(name, Qt::MatchRecursive).value(0)->index(); }
+    QRect cell(const QString &name) const { return view.visualRect(item(name)); }
+    QImage render() { return brixeltest::renderWidget(*view.viewport()); }
+
+    QStandardItemModel model;
+    MarkerDelegate delegate;
+    ZARNOutlineView view;
+};
+
+bool isWhite(const QColor &c)
+{
+    return c.red() > 245 && c.green() > 245 && c.blue() > 245;
+}
+
+bool isInk(const QColor &c)
+{
+    return !isWhite(c);
+}
+
+bool isText(const QColor &c)
+{
+    return c.lightness() < 128;
+}
+
+/// Whether \a image has a pixel matching \a matches inside \a area.
+bool hasPixel(const QImage &image, const QRect &area, bool (*matches)(const QColor &))
+{
+    return !brixeltest::pixelBounds(image.copy(area), matches).isNull();
+}
+
+} // namespace
+
+class TestOutlinePainting : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { brixeltest::useTestFont(); }
+    void indicator_data();
+    void indicator();
+    void highlightFollowsIndentation_data();
+    void highlightFollowsIndentation();
+    void hiddenMarkerWidensCell_data();
+    void hiddenMarkerWidensCell();
+    void selectedTextIsWhite();
+};
+
+void TestOutlinePainting::indicator_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("delegateImage");
+    QTest::addColumn<bool>("drawsIndicators");
+    QTest::addColumn<QString>("expected"); // "art", "red" or "none"
+
+    QTest::newRow("expandable: artwork") << u"a"_s << false << true << u"art"_s;
+    QTest::newRow("leaf: nothing") << u"b"_s << false << true << u"none"_s;
+    QTest::newRow("delegate's image") << u"a"_s << true << true << u"red"_s;
+    QTest::newRow("delegate's image, leaf") << u"b"_s << true << true << u"none"_s;
+    QTest::newRow("indicators off") << u"a"_s << false << false << u"none"_s;
+}
+
+void TestOutlinePainting::indicator()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, delegateImage);
+    QFETCH(bool, drawsIndicators);
+    QFETCH(QString, expected);
+
+    Outline o;
+    QImage red(8, 8, QImage::Format_ARGB32_Premultiplied);
+    red.fill(Qt::red);
+    if (delegateImage)
+        o.delegate.indicator = red;
+    o.view.setDrawsBranchIndicators(drawsIndicators);
+    const QRect cell = o.cell(name);
+    const QRect marker(cell.left() - o.view.indentation(), cell.top(), o.view.indentation(), cell.height());
+    const QImage image = o.render();
+
+    QCOMPARE(hasPixel(image, marker, isInk), expected != u"none"_s);
+    if (expected == u"red"_s) {
+        // Right against the cell, centred on it.
+        const int y = cell.top() + (cell.height() - 8) / 2;
+        QVERIFY(brixeltest::colorsClose(brixeltest::colorAt(image, {cell.left() - 8, y}), Qt::red));
+        QVERIFY(brixeltest::colorsClose(brixeltest::colorAt(image, {cell.left() - 1, y + 7}), Qt::red));
+        QVERIFY(isWhite(brixeltest::colorAt(image, {cell.left() - 9, y})));
+    }
+}
+
+void TestOutlinePainting::highlightFollowsIndentation_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("follows");
+    QTest::addColumn<int>("indent"); // where the shape starts, in indentation steps plus 16 for leaves
+
+    // A nested leaf: one level in, plus the missing triangle's 16.
+    QTest::newRow("nested leaf, following") << u"a1"_s << true << 1;
+    QTest::newRow("nested leaf, not following") << u"a1"_s << false << 0;
+    QTest::newRow("top-level leaf") << u"b"_s << true << 0;
+}
+
+void TestOutlinePainting::highlightFollowsIndentation()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, follows);
+    QFETCH(int, indent);
+
+    Outline o;
+    o.view.expandAll();
+    o.view.setHighlightFollowsIndentation(follows);
+    o.view.selectionModel()->select(o.item(name), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const int left = indent == 0 ? 0 : indent * o.view.indentation() + 16;
+    const int y = o.cell(name).center().y();
+    const QImage image = o.render();
+
+    // Left of the shape is background; just inside it (past the 1-wide outline) is the fill.
+    if (left > 0)
+        QVERIFY(isWhite(brixeltest::colorAt(image, {left - 2, y})));
+    QVERIFY(!isWhite(brixeltest::colorAt(image, {left + 2, y})));
+}
+
+void TestOutlinePainting::hiddenMarkerWidensCell_data()
+{
+    QTest::addColumn<std::optional<bool>>("delegateAnswer");
+    QTest::addColumn<bool>("viewShows");
+    QTest::addColumn<bool>("widened");
+
+    QTest::newRow("marker shown") << std::optional<bool>() << true << false;
+    QTest::newRow("view hides markers") << std::optional<bool>() << false << true;
+    QTest::newRow("delegate hides the marker") << std::optional<bool>(false) << true << true;
+    QTest::newRow("delegate shows it over the view") << std::optional<bool>(true) << false << false;
+}
+
+void TestOutlinePainting::hiddenMarkerWidensCell()
+{
+    QFETCH(std::optional<bool>, delegateAnswer);
+    QFETCH(bool, viewShows);
+    QFETCH(bool, widened);
+
+    Outline o;
+    o.delegate.showsMarker = delegateAnswer;
+    o.view.setShowsIndentationMarker(viewShows);
+    // "b" is a leaf: without a widened cell nothing is drawn left of its cell.
+    const QRect cell = o.cell(u"b"_s);
+    const QImage image = o.render();
+    QCOMPARE(hasPixel(image, QRect(cell.left() - 16, cell.top(), 16, cell.height()), isText), widened);
+    QVERIFY(hasPixel(image, cell.adjusted(-16, 0, 0, 0), isText));
+}
+
+void TestOutlinePainting::selectedTextIsWhite()
+{
+    Outline o;
+    o.view.selectionModel()->select(o.item(u"b"_s), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const QImage image = o.render();
+    const QRect text = o.cell(u"b"_s).adjusted(0, 3, -60, -3);
+    QVERIFY(hasPixel(image, text, isWhite)); // white text on the fill
+    QVERIFY(hasPixel(image, o.cell(u"a"_s).adjusted(0, 3, -60, -3), isText));
+}
+
+QTEST_MAIN(TestOutlinePainting)
+#include "tst_outlinepainting.moc"
