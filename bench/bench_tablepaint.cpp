@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // A full repaint of a 1000 x 800 table over 100,000 rows with every visible row selected,
-// beside QTableView painting the same model, size and selection.
+// beside QTableView painting the same model, size and selection; and the same for an outline
+// of 1,000 items of 99 children each (100,000 rows), expanded, beside QTreeView.
 #include "BenchHarness.h"
 
+#include <Brixel/ZARNOutlineView.h>
 #include <Brixel/ZARNTableView.h>
 
 #include <QAbstractTableModel>
@@ -10,6 +12,7 @@
 #include <QHeaderView>
 #include <QImage>
 #include <QTableView>
+#include <QTreeView>
 
 namespace {
 
@@ -41,6 +44,54 @@ public:
     }
 };
 
+/// 1,000 top-level items of 99 children each, 5 short strings a row, made on request.
+class TreeModel : public QAbstractItemModel
+{
+public:
+    static constexpr quintptr Top = 0xffffffff;
+    QModelIndex index(int row, int column, const QModelIndex &parent) const override
+    {
+        if (!hasIndex(row, column, parent))
+            return {};
+        return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : Top);
+    }
+    QModelIndex parent(const QModelIndex &child) const override
+    {
+        return !child.isValid() || child.internalId() == Top ? QModelIndex() : createIndex(int(child.internalId()), 0, Top);
+    }
+    int rowCount(const QModelIndex &parent) const override
+    {
+        if (!parent.isValid())
+            return 1000;
+        return parent.internalId() == Top && parent.column() == 0 ? 99 : 0;
+    }
+    int columnCount(const QModelIndex &) const override { return 5; }
+    QVariant data(const QModelIndex &index, int role) const override
+    {
+        if (role != Qt::DisplayRole)
+            return {};
+        return QStringLiteral("Item %1 of column %2").arg(index.row()).arg(index.column());
+    }
+};
+
+/// The view at 1000 x 800, focused in the active window, every visible row selected.
+void prepare(QTreeView &view, QAbstractItemModel &model)
+{
+    view.setModel(&model);
+    view.resize(1000, 800);
+    for (int column = 0; column < 5; ++column)
+        view.setColumnWidth(column, 190);
+    view.expandAll();
+    activate(view);
+    QItemSelection rows;
+    for (QModelIndex item = view.indexAt({1, 1}); item.isValid() && view.visualRect(item).top() < 800;
+         item = view.indexBelow(item))
+        rows.select(item, item.siblingAtColumn(4));
+    if (rows.isEmpty())
+        qFatal("no rows to select");
+    view.selectionModel()->select(rows, QItemSelectionModel::Select);
+}
+
 /// The view at 1000 x 800, focused in the active window, every visible row selected.
 void prepare(QTableView &view, QAbstractItemModel &model)
 {
@@ -54,7 +105,7 @@ void prepare(QTableView &view, QAbstractItemModel &model)
                                   QItemSelectionModel::Select);
 }
 
-double repaintNanoseconds(QTableView &view)
+double repaintNanoseconds(QAbstractItemView &view)
 {
     activate(view);
     QImage image(view.viewport()->size(), QImage::Format_ARGB32_Premultiplied);
@@ -77,5 +128,15 @@ int main(int argc, char *argv[])
     const double ours = repaintNanoseconds(table);
     const double theirs = repaintNanoseconds(plain);
     brixelbench::report("ZARNTableView repaint 1000x800, rows selected", ours, "QTableView repaint, same", theirs);
+
+    TreeModel tree;
+    ZARNOutlineView outline;
+    outline.setHighlightStyle(ZARNTableView::Capsule);
+    prepare(outline, tree);
+    QTreeView plainTree;
+    prepare(plainTree, tree);
+    const double outlineNs = repaintNanoseconds(outline);
+    const double treeNs = repaintNanoseconds(plainTree);
+    brixelbench::report("ZARNOutlineView repaint 1000x800, rows selected", outlineNs, "QTreeView repaint, same", treeNs);
     return 0;
 }
