@@ -35,6 +35,12 @@ class ZARNTableColumn;
  * keyboard focus (setFocus() and the Tab chain pass it by), which is what
  * acceptsFirstResponder() reports: isEnabled().
  *
+ * The view draws its rows itself (drawRow()): a selected row gets the highlightStyle() shape,
+ * from the item's indentation when highlightFollowsIndentation(); an item with children
+ * gets the delegate's disclosure image or the "expanded"/"collapsed" artwork (imageNamed())
+ * right against its cell; an item whose marker is hidden has its tree cell widened 16 to the
+ * left. The open menu's selected row and a drag's drop target are drawn over the rows.
+ *
  * Its cells are a ZARNTextFieldCell (the item delegate) and its header a
  * ZARNNSTableHeaderView. Columns are the shown header sections in visual order, with one
  * ZARNTableColumn each; they can be hidden and shown again by identifier as in
