@@ -45,17 +45,17 @@ void printThroughput(const char *name, qsizetype characters, double nanoseconds)
 int main()
 {
     const QString plain = unquotedLine();
-    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(CSVLineComponents(plain)); });
+    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::CSVLineComponents(plain)); });
     const double qt = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(plain.split(u',')); });
     brixelbench::report("CSVLineComponents, 1 M chars unquoted", ours, "QString::split(','), same line", qt);
     printThroughput("CSVLineComponents, unquoted", plain.size(), ours);
     printThroughput("QString::split, unquoted", plain.size(), qt);
-    std::printf("  fields: %lld; throughput ours / Qt: %.2f\n", qlonglong(CSVLineComponents(plain).size()), qt / ours);
+    std::printf("  fields: %lld; throughput ours / Qt: %.2f\n", qlonglong(Brixel::CSVLineComponents(plain).size()), qt / ours);
 
     const QString quoted = quotedLine();
-    const double quotedTime = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(CSVLineComponents(quoted)); });
+    const double quotedTime = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::CSVLineComponents(quoted)); });
     brixelbench::report("CSVLineComponents, 1 M chars quoted", quotedTime);
     printThroughput("CSVLineComponents, quoted", quoted.size(), quotedTime);
-    std::printf("  fields: %lld\n", qlonglong(CSVLineComponents(quoted).size()));
+    std::printf("  fields: %lld\n", qlonglong(Brixel::CSVLineComponents(quoted).size()));
     return 0;
 }

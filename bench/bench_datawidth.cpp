@@ -5,7 +5,7 @@
 #include "BenchHarness.h"
 
 #include <Brixel/ZARNNSTableColumnAdditions.h>
-#include <Brixel/ZARNTableColumnList.h>
+#include "tables/TableColumnList_p.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -48,10 +48,10 @@ int main(int argc, char *argv[])
     view.setModel(&model);
     view.resize(400, 300);
     view.show();
-    brixel::TableColumnList columns(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList columns(&view, view.horizontalHeader());
     ZARNTableColumn *column = columns.columnAt(0);
 
-    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(dataWidth(column)); }, 100, 3);
+    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::dataWidth(column)); }, 100, 3);
     view.horizontalHeader()->setResizeContentsPrecision(-1);
     const double qtAll = brixelbench::nanosecondsPerCall([&] { view.resizeColumnToContents(0); }, 100, 3);
     view.horizontalHeader()->setResizeContentsPrecision(1000);

@@ -45,7 +45,7 @@ void benchmarkFileSizes()
     const QLocale locale;
     std::size_t next = 0;
     const double ours = brixelbench::nanosecondsPerCall(
-        [&] { brixelbench::keep(StringForFileSize(fileSizes[next++ % fileSizes.size()])); });
+        [&] { brixelbench::keep(Brixel::StringForFileSize(fileSizes[next++ % fileSizes.size()])); });
     const double qt = brixelbench::nanosecondsPerCall(
         [&] { brixelbench::keep(locale.formattedDataSize(qint64(fileSizes[next++ % fileSizes.size()]))); });
     brixelbench::report("StringForFileSize", ours, "QLocale::formattedDataSize", qt);

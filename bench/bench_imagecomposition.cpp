@@ -39,13 +39,13 @@ int main(int argc, char *argv[])
     const QImage target = filled(fullHd, Qt::white);
 
     const double singleDraw = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(drawnOnce(frame, fullHd)); });
-    const double stretched = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(ZARNStretchedImageOverImage(frame, target)); });
+    const double stretched = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::ZARNStretchedImageOverImage(frame, target)); });
     brixelbench::report("ZARNStretchedImageOverImage 30x30 to 1920x1080", stretched, "QPainter::drawImage, same target", singleDraw);
 
     QList<QImage> layers{target};
     for (int layer = 1; layer < 8; ++layer)
         layers << filled({160 * layer, 90 * layer}, QColor(30 * layer, 20, 200, 60));
-    const double composed = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(imageByCompositingImages(layers)); });
+    const double composed = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::imageByCompositingImages(layers)); });
     const double singleFullDraw = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(drawnOnce(layers.last(), fullHd)); });
     brixelbench::report("imageByCompositingImages of 8, 1920x1080", composed, "QPainter::drawImage, same target", singleFullDraw);
     return 0;

@@ -2,8 +2,8 @@
 // Drawing one selected row, beside Qt's own selection fill of the same row.
 #include "BenchHarness.h"
 
-#include <Brixel/ZARNHighlightGradient.h>
-#include <Brixel/ZARNRowHighlighting.h>
+#include "tables/HighlightGradientCache_p.h"
+#include "tables/RowHighlighting_p.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -16,9 +16,9 @@ int main(int argc, char *argv[])
     const QColor highlight = QGuiApplication::palette().color(QPalette::Active, QPalette::Highlight);
     const QBrush qtSelection = QGuiApplication::palette().brush(QPalette::Active, QPalette::Highlight);
 
-    brixel::HighlightGradientCache cache;
+    BrixelPrivate::HighlightGradientCache cache;
     const QImage gradient = cache.image(row.height(), highlight);
-    const brixel::SelectionColors colors{highlight, highlight.darker(125), true};
+    const BrixelPrivate::SelectionColors colors{highlight, highlight.darker(125), true};
 
     QImage target(row.size().toSize(), QImage::Format_ARGB32_Premultiplied);
     target.fill(Qt::white);
@@ -26,11 +26,11 @@ int main(int argc, char *argv[])
 
     const double qtFill = brixelbench::nanosecondsPerCall([&] { painter.fillRect(row, qtSelection); });
     const double capsule = brixelbench::nanosecondsPerCall(
-        [&] { brixel::drawRowHighlight(painter, row, 1, colors, gradient, QImage()); });
+        [&] { BrixelPrivate::drawRowHighlight(painter, row, 1, colors, gradient, QImage()); });
     brixelbench::report("drawRowHighlight capsule+gradient 1000x20", capsule, "QPainter::fillRect, palette highlight", qtFill);
 
-    const QRectF shape = brixel::selectionShapeRect(row, false);
-    const QPainterPath path = brixel::highlightPath(shape, 1);
+    const QRectF shape = BrixelPrivate::selectionShapeRect(row, false);
+    const QPainterPath path = BrixelPrivate::highlightPath(shape, 1);
     const double clipped = brixelbench::nanosecondsPerCall([&] {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
@@ -41,13 +41,13 @@ int main(int argc, char *argv[])
     const double textured = brixelbench::nanosecondsPerCall([&] {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
-        brixel::fillPathWithStretchedImage(painter, path, shape, gradient);
+        BrixelPrivate::fillPathWithStretchedImage(painter, path, shape, gradient);
         painter.restore();
     });
     brixelbench::report("capsule gradient fill: stretched texture", textured, "capsule gradient fill: clip + drawImage", clipped);
 
     const double flat = brixelbench::nanosecondsPerCall(
-        [&] { brixel::drawRowHighlight(painter, row, 1, {highlight, highlight.darker(125), false}, gradient, QImage()); });
+        [&] { BrixelPrivate::drawRowHighlight(painter, row, 1, {highlight, highlight.darker(125), false}, gradient, QImage()); });
     brixelbench::report("drawRowHighlight capsule+flat fill 1000x20", flat, "QPainter::fillRect, palette highlight", qtFill);
 
     // A fractional row height rebuilds the image on every request.

@@ -4,6 +4,7 @@
 #include "BenchHarness.h"
 
 #include <Brixel/ZARNTextTruncation.h>
+#include <Brixel/ZARNLabelTruncation.h>
 
 #include <QApplication>
 #include <QFontMetricsF>
@@ -25,14 +26,14 @@ int main(int argc, char *argv[])
     const QFontMetricsF metrics(font);
 
     const double qt = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(metrics.elidedText(text, Qt::ElideRight, width)); });
-    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(TruncateAttributedString(attributed, width)); });
+    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::TruncateAttributedString(attributed, width)); });
     brixelbench::report("TruncateAttributedString 10k chars to 200 pt", ours, "QFontMetricsF::elidedText", qt);
 
     QLabel label;
     label.setFont(font);
     const double cell = brixelbench::nanosecondsPerCall([&] {
         label.setText(text);
-        TruncateStringInCell(&label, width);
+        Brixel::TruncateStringInCell(&label, width);
     });
     const double setTextOnly = brixelbench::nanosecondsPerCall([&] { label.setText(text); });
     brixelbench::report("TruncateStringInCell (QLabel), 10k chars", cell - setTextOnly, "QFontMetricsF::elidedText", qt);

@@ -39,13 +39,13 @@ bool hasBits(unsigned int style, unsigned int bits)
 
 } // namespace
 
-QPainterPath bezierPathWithRoundedRect(const ZARNRect &rect, float radius)
+QPainterPath Brixel::bezierPathWithRoundedRect(const ZARNRect &rect, float radius)
 {
-    return bezierPathWithRoundedRect(rect, radius,
+    return Brixel::bezierPathWithRoundedRect(rect, radius,
                                      ZARNRoundingStyleLeft | ZARNRoundingStyleRight | ZARNRoundingStyleTop | ZARNRoundingStyleBottom);
 }
 
-QPainterPath bezierPathWithRoundedRect(const ZARNRect &rect, float radius, unsigned int roundingStyle)
+QPainterPath Brixel::bezierPathWithRoundedRect(const ZARNRect &rect, float radius, unsigned int roundingStyle)
 {
     const float r = clampedRadius(rect, radius);
     const float x = rect.x();
@@ -78,12 +78,12 @@ QPainterPath bezierPathWithRoundedRect(const ZARNRect &rect, float radius, unsig
     return path;
 }
 
-float bezierPathDefaultLineWidth()
+float Brixel::bezierPathDefaultLineWidth()
 {
     return defaultLineWidth;
 }
 
-void setBezierPathDefaultLineWidth(float width)
+void Brixel::setBezierPathDefaultLineWidth(float width)
 {
     defaultLineWidth = width;
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNRect.h>
+#include "../platform/ZARNRect.h"
 #include <Brixel/brixel_export.h>
 
 #include <QPainterPath>
@@ -32,6 +32,8 @@ enum ZARNRoundingStyle : unsigned int {
     ZARNRoundingStyleBottom = 16, ///< the corners at the minimum y
 };
 
+namespace Brixel {
+
 /**
  * A closed path around \a rect with all four corners rounded by \a radius. The radius is
  * clamped to half the shorter side (the short ends of a long rectangle become half circles);
@@ -52,3 +54,5 @@ BRIXEL_EXPORT QPainterPath bezierPathWithRoundedRect(const ZARNRect &rect, float
 BRIXEL_EXPORT float bezierPathDefaultLineWidth();
 /// Changes the default line width for every later stroke that uses it.
 BRIXEL_EXPORT void setBezierPathDefaultLineWidth(float width);
+
+} // namespace Brixel

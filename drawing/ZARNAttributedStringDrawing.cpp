@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNAttributedStringDrawing.h"
 
-#include "ZARNTextLayout_p.h"
+#include "TextLayout_p.h"
 
-#include <Brixel/ZARNShadow.h>
+#include "../platform/ZARNShadow.h"
 
 #include <QFont>
 #include <QGlyphRun>
@@ -42,13 +42,11 @@ void switchOffAntialiasing(QTextLayout &layout)
 
 } // namespace
 
-namespace brixel {
-
-AttributedTextLayout::AttributedTextLayout(const ZARNAttributedString &string, qreal wrapWidth, bool wraps,
+ZARNAttributedTextLayout::ZARNAttributedTextLayout(const ZARNAttributedString &string, qreal wrapWidth, bool wraps,
                                            bool antialiased)
     : m_string(string)
 {
-    prepareTextLayout(m_layout, string,
+    BrixelPrivate::prepareTextLayout(m_layout, string,
                       wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     if (!antialiased)
         switchOffAntialiasing(m_layout);
@@ -56,17 +54,17 @@ AttributedTextLayout::AttributedTextLayout(const ZARNAttributedString &string, q
     layOutLines(!wraps ? std::numeric_limits<float>::max() : wrapWidth > 0 ? wrapWidth : 0.0);
 }
 
-AttributedTextLayout::AttributedTextLayout(const QString &text, const QFont &font, const QColor &color,
+ZARNAttributedTextLayout::ZARNAttributedTextLayout(const QString &text, const QFont &font, const QColor &color,
                                            Qt::Alignment alignment)
     : m_alignment(alignment)
     , m_color(color)
 {
-    m_layout.setText(withLineSeparators(text));
+    m_layout.setText(BrixelPrivate::withLineSeparators(text));
     m_layout.setFont(font);
     layOutLines(std::numeric_limits<float>::max());
 }
 
-void AttributedTextLayout::layOutLines(qreal lineWidth)
+void ZARNAttributedTextLayout::layOutLines(qreal lineWidth)
 {
     m_layout.beginLayout();
     for (QTextLine line = m_layout.createLine(); line.isValid(); line = m_layout.createLine()) {
@@ -79,7 +77,7 @@ void AttributedTextLayout::layOutLines(qreal lineWidth)
     m_layout.endLayout();
 }
 
-Qt::Alignment AttributedTextLayout::alignmentAt(qsizetype index) const
+Qt::Alignment ZARNAttributedTextLayout::alignmentAt(qsizetype index) const
 {
     if (index >= m_string.length())
         return m_alignment;
@@ -87,7 +85,7 @@ Qt::Alignment AttributedTextLayout::alignmentAt(qsizetype index) const
     return Qt::Alignment(m_string.attribute(ZARNParagraphAlignmentAttributeName, index).toInt());
 }
 
-void AttributedTextLayout::drawShadows(QPainter &painter, const QTextLine &line, QPointF origin) const
+void ZARNAttributedTextLayout::drawShadows(QPainter &painter, const QTextLine &line, QPointF origin) const
 {
     const qsizetype lineEnd = line.textStart() + line.textLength();
     for (qsizetype index = line.textStart(); index < lineEnd;) {
@@ -106,7 +104,7 @@ void AttributedTextLayout::drawShadows(QPainter &painter, const QTextLine &line,
     }
 }
 
-void AttributedTextLayout::draw(QPainter &painter, const QRectF &rect) const
+void ZARNAttributedTextLayout::draw(QPainter &painter, const QRectF &rect) const
 {
     if (!isFinite(rect))
         return;
@@ -132,10 +130,9 @@ void AttributedTextLayout::draw(QPainter &painter, const QRectF &rect) const
     painter.setPen(pen);
 }
 
-void drawAttributedString(QPainter &painter, const ZARNAttributedString &string, const QRectF &rect, bool wraps,
+void Brixel::drawAttributedString(QPainter &painter, const ZARNAttributedString &string, const QRectF &rect, bool wraps,
                           bool antialiased)
 {
-    AttributedTextLayout(string, rect.width(), wraps, antialiased).draw(painter, rect);
+    ZARNAttributedTextLayout(string, rect.width(), wraps, antialiased).draw(painter, rect);
 }
 
-} // namespace brixel

@@ -22,13 +22,13 @@ T lesser(T a, T b)
 
 } // namespace
 
-ZARNRect ZARNRectCenterOnRect(const ZARNRect &rect, const ZARNRect &onRect)
+ZARNRect Brixel::ZARNRectCenterOnRect(const ZARNRect &rect, const ZARNRect &onRect)
 {
     return {centred(onRect.x(), onRect.width(), rect.width()),
             centred(onRect.y(), onRect.height(), rect.height()), rect.width(), rect.height()};
 }
 
-ZARNRect ZARNScaleRectToRect(const ZARNRect &rect, const ZARNRect &toRect)
+ZARNRect Brixel::ZARNScaleRectToRect(const ZARNRect &rect, const ZARNRect &toRect)
 {
     const float widthRatio = toRect.width() / rect.width();
     const float heightRatio = toRect.height() / rect.height();
@@ -36,23 +36,23 @@ ZARNRect ZARNScaleRectToRect(const ZARNRect &rect, const ZARNRect &toRect)
     return {rect.origin, {float(double(rect.width()) * scale), float(double(rect.height()) * scale)}};
 }
 
-ZARNRect ZARNMakeRectWithSize(ZARNSize size)
+ZARNRect Brixel::ZARNMakeRectWithSize(ZARNSize size)
 {
     return {{0.0f, 0.0f}, size};
 }
 
-ZARNRect ZARNNormalizedRect(const ZARNRect &rect)
+ZARNRect Brixel::ZARNNormalizedRect(const ZARNRect &rect)
 {
     return {std::nearbyintf(rect.x()), std::nearbyintf(rect.y()), std::nearbyintf(rect.width()),
             std::nearbyintf(rect.height())};
 }
 
-ZARNPoint ZARNIntegralPoint(ZARNPoint point)
+ZARNPoint Brixel::ZARNIntegralPoint(ZARNPoint point)
 {
     return {std::nearbyintf(point.x), std::nearbyintf(point.y)};
 }
 
-ZARNRect ZARNAlignRectOnRect(const ZARNRect &rect, const ZARNRect &onRect, int alignment)
+ZARNRect Brixel::ZARNAlignRectOnRect(const ZARNRect &rect, const ZARNRect &onRect, int alignment)
 {
     if (alignment < 0 || alignment > 8)
         return rect;

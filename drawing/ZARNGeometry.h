@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNRect.h>
+#include "../platform/ZARNRect.h"
 #include <Brixel/brixel_export.h>
 
 /**
@@ -20,6 +20,8 @@
  * const ZARNPoint origin = ZARNIntegralPoint(icon.origin);   // 2.5 rounds to 2, 3.5 to 4
  * \endcode
  */
+
+namespace Brixel {
 
 /// \a rect's size centred on \a onRect: x = bx + (bw - aw) * 0.5, the difference taken in
 /// float, halving and sum in double, stored as float. No rounding to whole points; a larger
@@ -56,3 +58,5 @@ BRIXEL_EXPORT ZARNPoint ZARNIntegralPoint(ZARNPoint point);
  * in ZARNRectCenterOnRect(). In a flipped view codes 0 to 2 land at the visual bottom.
  */
 BRIXEL_EXPORT ZARNRect ZARNAlignRectOnRect(const ZARNRect &rect, const ZARNRect &onRect, int alignment);
+
+} // namespace Brixel

@@ -49,7 +49,7 @@ QImage reducedFrame(const QImage &frame, float targetWidth, float targetHeight)
 
 } // namespace
 
-QImage ZARNStretchedImageOverImage(const QImage &frameImage, const QImage &targetImage)
+QImage Brixel::ZARNStretchedImageOverImage(const QImage &frameImage, const QImage &targetImage)
 {
     if (frameImage.isNull() || targetImage.isNull())
         return {};
@@ -87,9 +87,9 @@ QImage ZARNStretchedImageOverImage(const QImage &frameImage, const QImage &targe
     return result;
 }
 
-QImage ZARNStretchImageOverImage(const QImage &frameImage, const QImage &targetImage)
+QImage Brixel::ZARNStretchImageOverImage(const QImage &frameImage, const QImage &targetImage)
 {
-    const QImage stretched = ZARNStretchedImageOverImage(frameImage, targetImage);
+    const QImage stretched = Brixel::ZARNStretchedImageOverImage(frameImage, targetImage);
     if (stretched.isNull())
         return {};
     QImage result = transparentImage(stretched.width(), stretched.height());
@@ -100,7 +100,7 @@ QImage ZARNStretchImageOverImage(const QImage &frameImage, const QImage &targetI
     return result;
 }
 
-QImage badgedImage(const QImage &image, const QImage &badge, int alignment)
+QImage Brixel::badgedImage(const QImage &image, const QImage &badge, int alignment)
 {
     if (image.isNull())
         return {};
@@ -108,14 +108,14 @@ QImage badgedImage(const QImage &image, const QImage &badge, int alignment)
     if (badge.isNull())
         return result;
     const float height = float(image.height());
-    const ZARNRect badgeRect = ZARNAlignRectOnRect(ZARNMakeRectWithSize({float(badge.width()), float(badge.height())}),
-                                                   ZARNMakeRectWithSize({float(image.width()), height}), alignment);
+    const ZARNRect badgeRect = Brixel::ZARNAlignRectOnRect(Brixel::ZARNMakeRectWithSize({float(badge.width()), float(badge.height())}),
+                                                   Brixel::ZARNMakeRectWithSize({float(image.width()), height}), alignment);
     QPainter painter(&result);
     painter.drawImage(inImageRows(badgeRect, height).topLeft(), badge);
     return result;
 }
 
-QImage ReplaceColorsInImage(const QImage &image, const QColor &color)
+QImage Brixel::ReplaceColorsInImage(const QImage &image, const QColor &color)
 {
     if (image.isNull() || !color.isValid())
         return {};

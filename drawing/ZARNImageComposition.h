@@ -22,6 +22,8 @@
  * \endcode
  */
 
+namespace Brixel {
+
 /**
  * \a frameImage cut into a three-by-three grid and stretched to \a targetImage's size: the
  * corners keep their size, the edges stretch along one axis, the centre along both.
@@ -53,3 +55,5 @@ BRIXEL_EXPORT QImage badgedImage(const QImage &image, const QImage &badge, int a
 /// by the image's own alpha, and transparent elsewhere. Null when \a image is null or
 /// \a color is invalid.
 BRIXEL_EXPORT QImage ReplaceColorsInImage(const QImage &image, const QColor &color);
+
+} // namespace Brixel

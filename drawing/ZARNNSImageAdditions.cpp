@@ -33,12 +33,12 @@ QImage loadFromFolder(const QString &folder, const QString &name)
 
 ZARNRect sizeRect(const QImage &image)
 {
-    return ZARNMakeRectWithSize({float(image.width()), float(image.height())});
+    return Brixel::ZARNMakeRectWithSize({float(image.width()), float(image.height())});
 }
 
 } // namespace
 
-void ZARNSetResourcePrefixForClass(const QString &className, const QString &prefix)
+void Brixel::ZARNSetResourcePrefixForClass(const QString &className, const QString &prefix)
 {
     if (prefix.isEmpty())
         registeredPrefixes().remove(className);
@@ -46,7 +46,7 @@ void ZARNSetResourcePrefixForClass(const QString &className, const QString &pref
         registeredPrefixes().insert(className, prefix);
 }
 
-QImage imageNamed(const QString &name, const QString &className)
+QImage Brixel::imageNamed(const QString &name, const QString &className)
 {
     if (name.isEmpty())
         return {};
@@ -59,7 +59,7 @@ QImage imageNamed(const QString &name, const QString &className)
     return loadFromFolder(QString::fromLatin1(ZARNLibraryImagesPrefix), name);
 }
 
-QImage imageByCompositingImages(const QList<QImage> &images)
+QImage Brixel::imageByCompositingImages(const QList<QImage> &images)
 {
     if (images.isEmpty() || images.constFirst().isNull())
         return {};
@@ -74,13 +74,13 @@ QImage imageByCompositingImages(const QList<QImage> &images)
         if (image.isNull())
             continue;
         const ZARNRect source = sizeRect(image);
-        const ZARNRect placed = ZARNNormalizedRect(ZARNRectCenterOnRect(ZARNScaleRectToRect(source, canvas), canvas));
+        const ZARNRect placed = Brixel::ZARNNormalizedRect(Brixel::ZARNRectCenterOnRect(Brixel::ZARNScaleRectToRect(source, canvas), canvas));
         painter.drawImage(placed.flipped(canvas.height()).toQRectF(), image, source.toQRectF());
     }
     return result;
 }
 
-void test(const QImage &)
+void Brixel::test(const QImage &)
 {
-    imageNamed(QStringLiteral("blah"), QStringLiteral("QImage"));
+    Brixel::imageNamed(QStringLiteral("blah"), QStringLiteral("QImage"));
 }

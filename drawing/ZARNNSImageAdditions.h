@@ -28,6 +28,8 @@
 /// The resource folder where the library keeps its own artwork.
 inline constexpr char ZARNLibraryImagesPrefix[] = ":/brixel/images";
 
+namespace Brixel {
+
 /// Makes \a prefix (for example ":/myapp/art") the first place imageNamed() looks for
 /// \a className's artwork. An empty prefix removes the registration.
 BRIXEL_EXPORT void ZARNSetResourcePrefixForClass(const QString &className, const QString &prefix);
@@ -51,3 +53,5 @@ BRIXEL_EXPORT QImage imageByCompositingImages(const QList<QImage> &images);
 /// Loads the image "blah" for the QImage class and discards it; it exists only as a callable
 /// entry point and has no other effect.
 BRIXEL_EXPORT void test(const QImage &image);
+
+} // namespace Brixel

@@ -53,7 +53,7 @@ void ZARNShading::drawShading(QPainter &painter)
     for (int sample = 0; sample <= sampleCount; ++sample) {
         const float t = float(sample) / sampleCount;
         float rgba[4];
-        ZARNShadingStandardShadingFunction(this, &t, rgba);
+        Brixel::ZARNShadingStandardShadingFunction(this, &t, rgba);
         const QColor colour = QColor::fromRgbF(unitComponent(rgba[0]), unitComponent(rgba[1]),
                                                unitComponent(rgba[2]), unitComponent(rgba[3]));
         gradient.setColorAt(t, toSRgb.map(colour));
@@ -68,15 +68,15 @@ void ZARNShading::drawShading(QPainter &painter)
     painter.restore();
 }
 
-void ZARNShadingStandardShadingFunction(void *info, const float *in, float *out)
+void Brixel::ZARNShadingStandardShadingFunction(void *info, const float *in, float *out)
 {
     if (!info || !in || !out)
         return;
     const auto *shading = static_cast<const ZARNShading *>(info);
     const float t = in[0];
-    const unsigned int count = std::min<unsigned int>(shading->m_numColorComponents, 4);
-    for (unsigned int i = 0; i < count; ++i) {
-        const float start = shading->m_startColorComponents[i];
-        out[i] = start + (shading->m_endColorComponents[i] - start) * t;
-    }
+    const unsigned int count = std::min<unsigned int>(shading->numColorComponents(), 4);
+    const ZARNShading::Components start = shading->startColorComponents();
+    const ZARNShading::Components end = shading->endColorComponents();
+    for (unsigned int i = 0; i < count; ++i)
+        out[i] = start[i] + (end[i] - start[i]) * t;
 }

@@ -64,8 +64,6 @@ public:
     void drawShading(QPainter &painter);
 
 private:
-    friend void ZARNShadingStandardShadingFunction(void *, const float *, float *);
-
     Components m_startColorComponents{};
     Components m_endColorComponents{};
     QColorSpace m_colorSpace{QColorSpace::SRgb};
@@ -74,6 +72,8 @@ private:
     unsigned int m_numColorComponents = 0;
 };
 
+namespace Brixel {
+
 /**
  * The interpolation that colours a ZARNShading: \a info is the shading, \a in points at the
  * position t along the axis (0 at the start, 1 at the end) and \a out receives
@@ -81,3 +81,5 @@ private:
  * clamping of t. A null argument does nothing.
  */
 BRIXEL_EXPORT void ZARNShadingStandardShadingFunction(void *info, const float *in, float *out);
+
+} // namespace Brixel

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTextTruncation.h"
 
-#include "ZARNAttributedStringDrawing.h"
-#include "ZARNTextLayout_p.h"
+#include "TruncationSearch_p.h"
+#include "ZARNAttributedTextLayout.h"
+#include "TextLayout_p.h"
 
-#include <QLabel>
 #include <QStandardItem>
 #include <QTextLayout>
 
@@ -26,10 +26,10 @@ bool fitsLimit(float width, double limit)
 qsizetype longestPrefixBeforeDots(const ZARNAttributedString &text, qsizetype maxLength, const ZARNAttributedString &tail,
                                   double limit)
 {
-    return brixel::longestFittingLength(maxLength, [&](qsizetype length) {
+    return BrixelPrivate::longestFittingLength(maxLength, [&](qsizetype length) {
         ZARNAttributedString candidate = text.attributedSubstring({0, length});
         candidate.append(tail);
-        return fitsLimit(brixel::attributedStringWidth(candidate), limit);
+        return fitsLimit(BrixelPrivate::attributedStringWidth(candidate), limit);
     });
 }
 
@@ -41,7 +41,7 @@ void truncateCell(const QString &text, const QVariantMap &attributes, float widt
 {
     const double limit = double(width) - ZARNTruncationMargin;
     const ZARNAttributedString string(text, attributes);
-    if (fitsLimit(brixel::attributedStringWidth(string), limit))
+    if (fitsLimit(BrixelPrivate::attributedStringWidth(string), limit))
         return;
     const qsizetype kept = longestPrefixBeforeDots(string, text.size() - 1,
                                                    ZARNAttributedString(dots, attributes), limit);
@@ -52,21 +52,19 @@ void truncateCell(const QString &text, const QVariantMap &attributes, float widt
 
 } // namespace
 
-float brixel::attributedStringWidth(const ZARNAttributedString &string)
+float BrixelPrivate::attributedStringWidth(const ZARNAttributedString &string)
 {
-    return float(AttributedTextLayout(string, 0, false).width());
+    return float(ZARNAttributedTextLayout(string, 0, false).width());
 }
 
-void TruncateStringInCell(QLabel *label, float width)
+void Brixel::TruncateStringInCell(QString *text, const QVariantMap &attributes, float width)
 {
-    if (!label)
+    if (!text)
         return;
-    const QVariantMap attributes{{ZARNFontAttributeName, label->font()},
-                                 {ZARNForegroundColorAttributeName, label->palette().color(label->foregroundRole())}};
-    truncateCell(label->text(), attributes, width, [label](const QString &text) { label->setText(text); });
+    truncateCell(*text, attributes, width, [text](const QString &shortened) { *text = shortened; });
 }
 
-void TruncateStringInCell(QStandardItem *item, float width)
+void Brixel::TruncateStringInCell(QStandardItem *item, float width)
 {
     if (!item)
         return;
@@ -76,10 +74,10 @@ void TruncateStringInCell(QStandardItem *item, float width)
     truncateCell(item->text(), attributes, width, [item](const QString &text) { item->setText(text); });
 }
 
-ZARNAttributedString TruncateAttributedString(const ZARNAttributedString &string, float width)
+ZARNAttributedString Brixel::TruncateAttributedString(const ZARNAttributedString &string, float width)
 {
     const double limit = double(width) - ZARNTruncationMargin;
-    if (fitsLimit(brixel::attributedStringWidth(string), limit))
+    if (fitsLimit(BrixelPrivate::attributedStringWidth(string), limit))
         return string;
     if (string.isEmpty())
         throw std::out_of_range("TruncateAttributedString: an empty string has no last character");
@@ -91,20 +89,20 @@ ZARNAttributedString TruncateAttributedString(const ZARNAttributedString &string
     return truncated;
 }
 
-QString TruncateStringWithAttributes(const QString &string, const QVariantMap &attributes, float width)
+QString Brixel::TruncateStringWithAttributes(const QString &string, const QVariantMap &attributes, float width)
 {
     if (string.isNull())
         return {};
-    return TruncateAttributedString(ZARNAttributedString(string, attributes), width).string();
+    return Brixel::TruncateAttributedString(ZARNAttributedString(string, attributes), width).string();
 }
 
-float ZARNAttributedStringHeightForWidth(const ZARNAttributedString &string, float width)
+float Brixel::ZARNAttributedStringHeightForWidth(const ZARNAttributedString &string, float width)
 {
     if (string.isEmpty())
         return 0.0f;
     // One layout serves every call, as the measurement runs often and in the GUI thread only.
     static QTextLayout layout;
-    brixel::prepareTextLayout(layout, string, QTextOption::WrapAtWordBoundaryOrAnywhere);
+    BrixelPrivate::prepareTextLayout(layout, string, QTextOption::WrapAtWordBoundaryOrAnywhere);
     const qreal lineWidth = width > 0 ? qreal(width) : 0.0;
     qreal height = 0;
     layout.beginLayout();

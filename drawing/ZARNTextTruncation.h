@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNAttributedString.h>
+#include "../platform/ZARNAttributedString.h"
 #include <Brixel/brixel_export.h>
 
 #include <QString>
 #include <QVariantMap>
 
-class QLabel;
 class QStandardItem;
 
 /**
@@ -37,15 +36,18 @@ class QStandardItem;
 /// The margin every truncation keeps: text must measure at most width - 4.0 points.
 inline constexpr double ZARNTruncationMargin = 4.0;
 
+namespace Brixel {
+
 /**
- * Shortens \a label's text in place so that it fits \a width in the label's font: the
- * longest start of the text followed by "..." that fits. Text that already fits is left
- * untouched; a null label does nothing.
+ * Shortens \a text in place so that it fits \a width when drawn with \a attributes (font and
+ * colour, see ZARNAttributedString): the longest start of the text followed by "..." that
+ * fits. Text that already fits is left untouched; a null \a text does nothing. The cells of
+ * the other layers (labels, model items) shorten their text through this.
  *
- * \throws std::out_of_range when even "..." alone does not fit; the label then shows "...".
+ * \throws std::out_of_range when even "..." alone does not fit; \a text is then "...".
  * Pass a width that holds "..." plus the margin.
  */
-BRIXEL_EXPORT void TruncateStringInCell(QLabel *label, float width);
+BRIXEL_EXPORT void TruncateStringInCell(QString *text, const QVariantMap &attributes, float width);
 
 /// The same for a model item, measured in the item's font (see QStandardItem::font()).
 BRIXEL_EXPORT void TruncateStringInCell(QStandardItem *item, float width);
@@ -75,44 +77,4 @@ BRIXEL_EXPORT QString TruncateStringWithAttributes(const QString &string, const 
  */
 BRIXEL_EXPORT float ZARNAttributedStringHeightForWidth(const ZARNAttributedString &string, float width);
 
-namespace brixel {
-
-/// The measured width of \a string: its widest line, each line break ("\n", "\r", U+2028)
-/// starting a new line.
-BRIXEL_EXPORT float attributedStringWidth(const ZARNAttributedString &string);
-
-/**
- * The largest length from 0 to \a maxLength for which \a fits answers true, assuming that a
- * prefix that fits stays fitting when it is made shorter, apart from a character or two at
- * its end (kerning): lengths just above the boundary found are checked too. -1 when no
- * length fits. \a fits is called O(log n) times, mostly with short lengths.
- */
-template<typename Fits>
-qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits);
-
-} // namespace brixel
-
-template<typename Fits>
-qsizetype brixel::longestFittingLength(qsizetype maxLength, Fits &&fits)
-{
-    if (maxLength < 0 || !fits(0))
-        return -1;
-    qsizetype fitting = 0;
-    for (;;) {
-        // Grow from the short end: the answer is usually short, and short prefixes are cheap.
-        qsizetype step = 1;
-        while (step <= maxLength - fitting && fits(fitting + step)) {
-            fitting += step;
-            step *= 2;
-        }
-        qsizetype tooLong = step <= maxLength - fitting ? fitting + step : maxLength + 1;
-        while (tooLong - fitting > 1) {
-            const qsizetype middle = fitting + (tooLong - fitting) / 2;
-            (fits(middle) ? fitting : tooLong) = middle;
-        }
-        // A kerning pair at the cut can make a longer prefix narrower; look one further.
-        if (tooLong + 1 > maxLength || !fits(tooLong + 1))
-            return fitting;
-        fitting = tooLong + 1;
-    }
-}
+} // namespace Brixel

@@ -22,18 +22,18 @@ void check(bool condition)
 void checkRoundTrip(const QColor &color)
 {
     static const QRegularExpression shape(QStringLiteral("^([01]\\.\\d{5},){3}[01]\\.\\d{5}$"));
-    const QString text = asCalibratedRGBString(color);
+    const QString text = Brixel::asCalibratedRGBString(color);
     check(shape.match(text).hasMatch());
-    const QColor back = colorFromCalibratedRGBString(text);
+    const QColor back = Brixel::colorFromCalibratedRGBString(text);
     check(back.rgba64() == color.toRgb().rgba64());
-    check(asCalibratedRGBString(back) == text);
+    check(Brixel::asCalibratedRGBString(back) == text);
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QColor color = colorFromCalibratedRGBString(QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size)));
+    const QColor color = Brixel::colorFromCalibratedRGBString(QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size)));
     check(color.isValid() && color == color.toRgb());   // an RGB colour
     checkRoundTrip(color);
 

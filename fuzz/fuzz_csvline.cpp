@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     // Latin-1 reaches every character the reader treats specially; the others behave alike.
     const QString line = QString::fromLatin1(reinterpret_cast<const char *>(data), qsizetype(size));
-    const QStringList fields = CSVLineComponents(line);
+    const QStringList fields = Brixel::CSVLineComponents(line);
 
     if (fields.isEmpty())
         std::abort();

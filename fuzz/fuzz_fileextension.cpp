@@ -12,8 +12,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QString path = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
-    const QString extension = fileExtension(path);
-    const QString withoutExtension = stringByDeletingFileExtension(path);
+    const QString extension = Brixel::fileExtension(path);
+    const QString withoutExtension = Brixel::stringByDeletingFileExtension(path);
 
     if (extension.isEmpty()) {
         if (withoutExtension != path)

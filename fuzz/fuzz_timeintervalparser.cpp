@@ -13,6 +13,7 @@
 //   text         the rest, UTF-8
 
 #include <Brixel/BXTimeIntervalFormatter.h>
+#include "values/TimeIntervalComponents_p.h"
 #include <Brixel/ZARNTimeAndSizeStrings.h>
 
 #include <QString>
@@ -130,13 +131,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (mustReadBack(formatter, seconds)) {
         QVariant again;
         formatter.getObjectValue(&again, shown, nullptr);
-        const double unit = _BXTimeIntervalComponentScalar(formatter.minimumComponent());
+        const double unit = BrixelPrivate::_BXTimeIntervalComponentScalar(formatter.minimumComponent());
         if (again.toDouble() != std::trunc(seconds / unit) * unit)
             std::abort();
     }
     if (formatter.stringForObjectValue(text) != QStringLiteral("0"))
         std::abort();
 
-    ZARNLongStringForTimeInterval(seconds);
+    Brixel::ZARNLongStringForTimeInterval(seconds);
     return 0;
 }

@@ -4,6 +4,7 @@
 // start of the text followed by "..." that fits, or "..." alone.
 
 #include <Brixel/ZARNTextTruncation.h>
+#include "drawing/TruncationSearch_p.h"
 
 #include <QColor>
 #include <QFont>
@@ -59,14 +60,14 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, size_t size)
 
     const double limit = double(width) - ZARNTruncationMargin;
     try {
-        const ZARNAttributedString truncated = TruncateAttributedString(string, width);
+        const ZARNAttributedString truncated = Brixel::TruncateAttributedString(string, width);
         if (truncated == string) {
-            require(!(double(brixel::attributedStringWidth(string)) > limit) || string.string().endsWith(u"..."));
+            require(!(double(BrixelPrivate::attributedStringWidth(string)) > limit) || string.string().endsWith(u"..."));
         } else {
             require(truncated.string().endsWith(u"..."));
             const QString kept = truncated.string().chopped(3);
             require(kept.size() < string.length() && string.string().startsWith(kept));
-            require(kept.isEmpty() || !(double(brixel::attributedStringWidth(truncated)) > limit));
+            require(kept.isEmpty() || !(double(BrixelPrivate::attributedStringWidth(truncated)) > limit));
         }
     } catch (const std::out_of_range &) {
         require(string.isEmpty() && width < 4.0f);

@@ -5,14 +5,14 @@
 #include <QPointer>
 #include <QTranslator>
 
-QString ZARNLocalizedString(const char *key)
+QString Brixel::ZARNLocalizedString(const char *key)
 {
     if (!key)
         return {};
     return QCoreApplication::translate(ZARNLocalizedStringContext, key);
 }
 
-bool ZARNLoadTranslations(const QLocale &locale)
+bool Brixel::ZARNLoadTranslations(const QLocale &locale)
 {
     auto *application = QCoreApplication::instance();
     if (!application)

@@ -16,6 +16,8 @@
  * (the translator installed last wins). A key without a translation returns the key itself.
  */
 
+namespace Brixel {
+
 /// The translation of the English word \a key, or \a key when no translator has one.
 BRIXEL_EXPORT QString ZARNLocalizedString(const char *key);
 
@@ -29,3 +31,5 @@ inline constexpr char ZARNLocalizedStringContext[] = "Brixel";
  * language again replaces the previous library translation.
  */
 BRIXEL_EXPORT bool ZARNLoadTranslations(const QLocale &locale = QLocale());
+
+} // namespace Brixel

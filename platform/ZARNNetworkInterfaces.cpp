@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNetworkInterfaces.h"
+#include "RouteTable_p.h"
 
 #include <QFile>
 #include <QNetworkInterface>
@@ -35,7 +36,7 @@ public:
         QFile table(QStringLiteral("/proc/net/route"));
         if (!table.open(QIODevice::ReadOnly))
             return {};
-        return brixel::defaultRouteInterfaceName(table.readAll());
+        return BrixelPrivate::defaultRouteInterfaceName(table.readAll());
     }
 
     QString hostName() const override { return QSysInfo::machineHostName(); }
@@ -58,7 +59,7 @@ std::optional<quint32> numberField(const QList<QByteArray> &fields, qsizetype in
 
 } // namespace
 
-QString brixel::defaultRouteInterfaceName(QByteArrayView routeTable)
+QString BrixelPrivate::defaultRouteInterfaceName(QByteArrayView routeTable)
 {
     // Columns: Iface Destination Gateway Flags RefCnt Use Metric Mask MTU Window IRTT; the
     // addresses, flags and mask are hexadecimal, the metric decimal.

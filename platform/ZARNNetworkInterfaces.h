@@ -67,10 +67,3 @@ public:
     /// The machine's back end, whatever is installed.
     static const ZARNNetworkInterfaces &system();
 };
-
-namespace brixel {
-/// The interface of the IPv4 default route in a table in the format of /proc/net/route: among
-/// the lines that are up (flag bit 1) with destination and mask 00000000, the one with the
-/// lowest metric, the first of equals. Empty when there is none or the text is not such a table.
-BRIXEL_EXPORT QString defaultRouteInterfaceName(QByteArrayView routeTable);
-}

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNPoint.h>
-#include <Brixel/ZARNSize.h>
+#include "ZARNPoint.h"
+#include "ZARNSize.h"
 #include <Brixel/brixel_export.h>
 
 #include <QRectF>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNSize.h>
+#include "ZARNSize.h"
 
 #include <QColor>
 #include <QMetaType>

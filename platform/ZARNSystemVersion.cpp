@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNSystemVersion.h"
+#include "SystemVersionCode_p.h"
 
 #include <QLoggingCategory>
 
@@ -12,7 +13,7 @@ quint32 codeFromEnvironment()
     const QString text = qEnvironmentVariable("BRIXEL_SYSTEM_VERSION");
     if (text.trimmed().isEmpty())
         return ZARNSystemVersionNewest;
-    const quint32 code = brixel::parseSystemVersionCode(text);
+    const quint32 code = BrixelPrivate::parseSystemVersionCode(text);
     if (code == 0) {
         qCWarning(lcSystemVersion) << "BRIXEL_SYSTEM_VERSION is not a hexadecimal code:" << text
                                    << "- using the newest behaviour";
@@ -29,7 +30,7 @@ quint32 &currentCode()
 
 } // namespace
 
-quint32 brixel::parseSystemVersionCode(QStringView text)
+quint32 BrixelPrivate::parseSystemVersionCode(QStringView text)
 {
     QStringView digits = text.trimmed();
     if (digits.startsWith(u"0x", Qt::CaseInsensitive))
@@ -41,12 +42,12 @@ quint32 brixel::parseSystemVersionCode(QStringView text)
     return quint32(value);
 }
 
-quint32 ZARNSystemVersion()
+quint32 Brixel::ZARNSystemVersion()
 {
     return currentCode();
 }
 
-void ZARNSetSystemVersion(quint32 code)
+void Brixel::ZARNSetSystemVersion(quint32 code)
 {
     if (std::exchange(currentCode(), code) != code)
         Q_EMIT ZARNSystemVersionNotifier::instance()->systemVersionChanged(code);

@@ -31,6 +31,8 @@
 /// A code above every threshold the library uses: the newest behaviour of each.
 inline constexpr quint32 ZARNSystemVersionNewest = 0x1060;
 
+namespace Brixel {
+
 /// The current system version code. The first call reads \c BRIXEL_SYSTEM_VERSION; an unset,
 /// empty or malformed variable leaves ZARNSystemVersionNewest (a malformed one with a warning).
 BRIXEL_EXPORT quint32 ZARNSystemVersion();
@@ -38,6 +40,8 @@ BRIXEL_EXPORT quint32 ZARNSystemVersion();
 /// Makes \a code the current system version code and emits
 /// ZARNSystemVersionNotifier::systemVersionChanged() when it differs from the previous one.
 BRIXEL_EXPORT void ZARNSetSystemVersion(quint32 code);
+
+} // namespace Brixel
 
 /**
  * Tells interested objects that the system version code has changed, so that widgets whose
@@ -56,9 +60,3 @@ Q_SIGNALS:
 private:
     ZARNSystemVersionNotifier() = default;
 };
-
-namespace brixel {
-/// Reads a code written in hexadecimal, with or without a "0x" prefix and surrounding blanks.
-/// Returns 0 for text that is empty, not hexadecimal or too large for 32 bits.
-BRIXEL_EXPORT quint32 parseSystemVersionCode(QStringView text);
-}

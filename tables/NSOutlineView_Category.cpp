@@ -3,7 +3,7 @@
 
 #include "ZARNOutlineView.h"
 
-void zapIndentationMarker(QTreeView *view)
+void Brixel::zapIndentationMarker(QTreeView *view)
 {
     if (!view)
         return;

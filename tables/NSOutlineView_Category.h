@@ -5,6 +5,8 @@
 
 class QTreeView;
 
+namespace Brixel {
+
 /**
  * Hides the disclosure markers that Qt draws for \a view: the markers of top-level items go
  * (QTreeView::setRootIsDecorated(false)), and a ZARNOutlineView also stops drawing Qt's
@@ -19,3 +21,5 @@ class QTreeView;
  * \endcode
  */
 BRIXEL_EXPORT void zapIndentationMarker(QTreeView *view);
+
+} // namespace Brixel

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNImageAndTextCell.h"
+#include "ImageAndTextLayout_p.h"
 
-#include <Brixel/ZARNGeometry.h>
+#include "../drawing/ZARNGeometry.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -25,7 +26,7 @@ QStyleOptionViewItem withRect(const QStyleOptionViewItem &option, const ZARNRect
 
 } // namespace
 
-brixel::RectDivision brixel::divideRectFromLeft(const ZARNRect &rect, float amount)
+BrixelPrivate::RectDivision BrixelPrivate::divideRectFromLeft(const ZARNRect &rect, float amount)
 {
     const float width = rect.width() > 0 ? rect.width() : 0.0f;
     const float sliceWidth = amount > 0 ? std::min(amount, width) : 0.0f;
@@ -33,22 +34,22 @@ brixel::RectDivision brixel::divideRectFromLeft(const ZARNRect &rect, float amou
             {rect.x() + sliceWidth, rect.y(), width - sliceWidth, rect.height()}};
 }
 
-ZARNRect brixel::imageDestination(ZARNSize imageSize, const ZARNRect &area, int scaling)
+ZARNRect BrixelPrivate::imageDestination(ZARNSize imageSize, const ZARNRect &area, int scaling)
 {
-    const ZARNRect source = ZARNMakeRectWithSize(imageSize);
+    const ZARNRect source = Brixel::ZARNMakeRectWithSize(imageSize);
     ZARNRect destination;
     switch (scaling) {
     case 1:
         destination = area;
         break;
     case 2:
-        destination = ZARNRectCenterOnRect(source, area);
+        destination = Brixel::ZARNRectCenterOnRect(source, area);
         break;
     default:
-        destination = ZARNRectCenterOnRect(ZARNScaleRectToRect(source, area), area);
+        destination = Brixel::ZARNRectCenterOnRect(Brixel::ZARNScaleRectToRect(source, area), area);
         break;
     }
-    destination.origin = ZARNIntegralPoint(destination.origin);
+    destination.origin = Brixel::ZARNIntegralPoint(destination.origin);
     return destination;
 }
 
@@ -138,13 +139,13 @@ void ZARNImageAndTextCell::paint(QPainter *painter, const QStyleOptionViewItem &
     }
     // The image area is the image rectangle's width (imageSize()'s) + 2, the full height.
     const ZARNRect frame = ZARNRect::fromQRectF(option.rect);
-    const brixel::RectDivision parts = brixel::divideRectFromLeft(frame, float(double(m_imageSize.width) + 2.0));
+    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft(frame, float(double(m_imageSize.width) + 2.0));
     if (drawsBackground()) {
         painter->fillRect(parts.slice.toQRectF(), backgroundColor().isValid() ? QBrush(backgroundColor())
                                                                                 : option.palette.base());
     }
     // Qt draws images upright in its top-down widgets, so no flipping transform is needed.
-    drawImage(*painter, image, brixel::imageDestination(ownSize(image), parts.slice, m_imageScaling));
+    drawImage(*painter, image, BrixelPrivate::imageDestination(ownSize(image), parts.slice, m_imageScaling));
     ZARNTextFieldCell::paint(painter, withRect(option, parts.remainder), index);
 }
 
@@ -153,7 +154,7 @@ void ZARNImageAndTextCell::updateEditorGeometry(QWidget *editor, const QStyleOpt
 {
     const QImage image = imageForIndex(index);
     const double amount = (image.isNull() ? 0.0 : double(ownSize(image).width)) + 3.0;
-    const brixel::RectDivision parts = brixel::divideRectFromLeft(ZARNRect::fromQRectF(option.rect), float(amount));
+    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft(ZARNRect::fromQRectF(option.rect), float(amount));
     ZARNTextFieldCell::updateEditorGeometry(editor, withRect(option, parts.remainder), index);
 }
 

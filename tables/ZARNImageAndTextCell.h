@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNSize.h>
-#include <Brixel/ZARNTextFieldCell.h>
+#include "../platform/ZARNSize.h"
+#include "ZARNTextFieldCell.h"
 #include <Brixel/brixel_export.h>
 
 #include <QImage>
@@ -97,22 +97,3 @@ private:
     mutable qint64 m_reducedSourceKey = 0;
     mutable QImage m_reduced;
 };
-
-namespace brixel {
-
-/**
- * Divides \a rect from its left edge: the first \a amount points (limited to 0 .. width; NaN
- * counts as 0) are the slice, the rest the remainder.
- */
-struct RectDivision
-{
-    ZARNRect slice;
-    ZARNRect remainder;
-};
-BRIXEL_EXPORT RectDivision divideRectFromLeft(const ZARNRect &rect, float amount);
-
-/// Where an image of \a imageSize is drawn in \a area for the scaling \a scaling (see
-/// ZARNImageAndTextCell), its origin snapped to whole points.
-BRIXEL_EXPORT ZARNRect imageDestination(ZARNSize imageSize, const ZARNRect &area, int scaling);
-
-} // namespace brixel

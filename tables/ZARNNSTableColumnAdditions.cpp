@@ -94,7 +94,7 @@ bool isTreeColumn(const QTreeView &tree, const ZARNTableColumn &column)
 
 } // namespace
 
-float dataWidth(const ZARNTableColumn *column)
+float Brixel::dataWidth(const ZARNTableColumn *column)
 {
     if (!column)
         return 0.0f;
@@ -113,8 +113,8 @@ float dataWidth(const ZARNTableColumn *column)
     return std::trunc(width) + 4.0f;
 }
 
-void sizeToFitData(ZARNTableColumn *column)
+void Brixel::sizeToFitData(ZARNTableColumn *column)
 {
     if (column)
-        column->setWidth(std::min(dataWidth(column), column->maxWidth()));
+        column->setWidth(std::min(Brixel::dataWidth(column), column->maxWidth()));
 }

@@ -14,6 +14,8 @@ class ZARNTableColumn;
  * \endcode
  */
 
+namespace Brixel {
+
 /**
  * The width the column's data needs: the widest sizeHint() its data cell (delegate) gives
  * for the view's rows, but at least minWidth(), times 1.1, truncated to a whole number, plus
@@ -36,3 +38,5 @@ BRIXEL_EXPORT float dataWidth(const ZARNTableColumn *column);
 /// Sets the column's width to dataWidth(), limited by its maxWidth(). A null column does
 /// nothing.
 BRIXEL_EXPORT void sizeToFitData(ZARNTableColumn *column);
+
+} // namespace Brixel

@@ -2,7 +2,7 @@
 #include "ZARNNSTableHeaderView.h"
 
 #include "ZARNNSTableColumnAdditions.h"
-#include "ZARNTableColumnList.h"
+#include "TableColumnList_p.h"
 
 #include <QAbstractItemView>
 #include <QMouseEvent>
@@ -34,7 +34,7 @@ void ZARNNSTableHeaderView::setResizeColumnsOnDoubleClick(bool resize)
     m_resizeColumnsOnDoubleClick = resize;
 }
 
-void ZARNNSTableHeaderView::setColumnList(brixel::TableColumnList *columns)
+void ZARNNSTableHeaderView::setColumnList(BrixelPrivate::TableColumnList *columns)
 {
     m_columns = columns;
 }
@@ -70,7 +70,7 @@ void ZARNNSTableHeaderView::mouseDoubleClickEvent(QMouseEvent *event)
         return;
     if (m_resizeColumnsOnDoubleClick && event->button() == Qt::LeftButton) {
         if (ZARNTableColumn *column = columnToFitAt(event->position().x())) {
-            sizeToFitData(column);
+            Brixel::sizeToFitData(column);
             return;
         }
     }
@@ -119,12 +119,12 @@ int ZARNNSTableHeaderView::sectionHandleAt(int x) const
     return atTrailing ? logical : -1;
 }
 
-brixel::TableColumnList &ZARNNSTableHeaderView::columns()
+BrixelPrivate::TableColumnList &ZARNNSTableHeaderView::columns()
 {
     if (m_columns)
         return *m_columns;
     auto *view = qobject_cast<QAbstractItemView *>(parentWidget());
     if (!m_ownColumns || m_ownColumns->view() != view)
-        m_ownColumns = std::make_unique<brixel::TableColumnList>(view, this);
+        m_ownColumns = std::make_unique<BrixelPrivate::TableColumnList>(view, this);
     return *m_ownColumns;
 }

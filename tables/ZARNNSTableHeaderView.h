@@ -10,7 +10,7 @@
 
 class ZARNTableColumn;
 
-namespace brixel {
+namespace BrixelPrivate {
 class TableColumnList;
 }
 
@@ -48,7 +48,7 @@ public:
     void setResizeColumnsOnDoubleClick(bool resize);
 
     /// The column objects the header works on (not owned); null makes it use its own.
-    void setColumnList(brixel::TableColumnList *columns);
+    void setColumnList(BrixelPrivate::TableColumnList *columns);
 
     /**
      * The column a double-click at \a x (viewport coordinates) fits: null unless Qt's header
@@ -65,9 +65,9 @@ private:
     bool viewIsEnabled() const;
     bool showsResizeCursorAt(int x) const;
     int sectionHandleAt(int x) const;
-    brixel::TableColumnList &columns();
+    BrixelPrivate::TableColumnList &columns();
 
-    QPointer<brixel::TableColumnList> m_columns;
-    std::unique_ptr<brixel::TableColumnList> m_ownColumns;
+    QPointer<BrixelPrivate::TableColumnList> m_columns;
+    std::unique_ptr<BrixelPrivate::TableColumnList> m_ownColumns;
     bool m_resizeColumnsOnDoubleClick = true;
 };

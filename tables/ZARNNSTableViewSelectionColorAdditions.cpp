@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNSTableViewSelectionColorAdditions.h"
+#include "SelectionColorRules_p.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -32,7 +33,7 @@ QColor opaqueBlackIfInvalid(const QColor &colour)
 
 } // namespace
 
-namespace brixel {
+namespace BrixelPrivate {
 
 QColor selectionColor(const QColor &systemHighlight, bool focusedInActiveWindow, bool enabled)
 {
@@ -53,21 +54,21 @@ QColor selectionOutlineColor(const QColor &selectionColor)
     return QColor::fromHsvF(colour.hsvHueF(), colour.hsvSaturationF(), colour.valueF() * 0.8f, 1.0f).toRgb();
 }
 
-} // namespace brixel
+} // namespace BrixelPrivate
 
-QColor selectionColor(const QAbstractItemView *view)
+QColor Brixel::selectionColor(const QAbstractItemView *view)
 {
     if (!view)
-        return brixel::selectionColor(QColor(), false, true);
-    return brixel::selectionColor(systemHighlight(*view), isFocusedInActiveWindow(*view), view->isEnabled());
+        return BrixelPrivate::selectionColor(QColor(), false, true);
+    return BrixelPrivate::selectionColor(systemHighlight(*view), isFocusedInActiveWindow(*view), view->isEnabled());
 }
 
-QColor selectionOutlineColor(const QAbstractItemView *view)
+QColor Brixel::selectionOutlineColor(const QAbstractItemView *view)
 {
-    return brixel::selectionOutlineColor(selectionColor(view));
+    return BrixelPrivate::selectionOutlineColor(selectionColor(view));
 }
 
-bool selectionShouldDrawGradient(const QAbstractItemView *view)
+bool Brixel::selectionShouldDrawGradient(const QAbstractItemView *view)
 {
     return view && isFocusedInActiveWindow(*view) && view->isEnabled();
 }

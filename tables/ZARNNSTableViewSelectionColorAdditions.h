@@ -24,10 +24,12 @@ class QAbstractItemView;
  * \endcode
  */
 
+namespace Brixel {
+
 /**
  * The fill colour of a selected row. A focused view in the active window uses the highlight
  * colour; otherwise grey 0.7. A disabled view desaturates that colour to a grey (see
- * brixel::selectionColor()). A null view gives grey 0.7, as an enabled view in the
+ * BrixelPrivate::selectionColor()). A null view gives grey 0.7, as an enabled view in the
  * background does.
  */
 BRIXEL_EXPORT QColor selectionColor(const QAbstractItemView *view);
@@ -40,19 +42,4 @@ BRIXEL_EXPORT QColor selectionOutlineColor(const QAbstractItemView *view);
 /// rows are filled with the gradient rather than with selectionColor(). False for null.
 BRIXEL_EXPORT bool selectionShouldDrawGradient(const QAbstractItemView *view);
 
-namespace brixel {
-
-/**
- * The selection colour rule apart from any view. \a systemHighlight is used when
- * \a focusedInActiveWindow, grey 0.7 (alpha 1) otherwise. When \a enabled is false the colour
- * is desaturated: the same hue, saturation times 0.3, the same value and alpha, then reduced
- * to its luminance (0.299 red + 0.587 green + 0.114 blue) as an RGB grey with that alpha.
- * An invalid \a systemHighlight counts as opaque black.
- */
-BRIXEL_EXPORT QColor selectionColor(const QColor &systemHighlight, bool focusedInActiveWindow, bool enabled);
-
-/// The outline of a selection filled with \a selectionColor: same hue and saturation,
-/// value times 0.8, alpha 1. An invalid colour counts as opaque black.
-BRIXEL_EXPORT QColor selectionOutlineColor(const QColor &selectionColor);
-
-} // namespace brixel
+} // namespace Brixel

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNOutlineView.h"
 
-#include "ZARNHighlightGradient.h"
-#include "ZARNItemViewBehaviour.h"
+#include "HighlightGradientCache_p.h"
+#include "ItemViewBehaviour_p.h"
 #include "ZARNNSTableHeaderView.h"
 #include "ZARNOutlineViewDelegate.h"
-#include "ZARNRowPainter.h"
+#include "RowPainter_p.h"
 #include "ZARNTableColumn.h"
-#include "ZARNTableColumnList.h"
+#include "TableColumnList_p.h"
 #include "ZARNTextFieldCell.h"
 
-#include <Brixel/ZARNNSImageAdditions.h>
+#include "../drawing/ZARNNSImageAdditions.h"
 
 #include <QDropEvent>
 #include <QHeaderView>
@@ -100,20 +100,20 @@ public:
     QRect rowRect(const QModelIndex &item) const;
     bool isRowSelected(const QModelIndex &item) const;
     QImage customHighlightImage(const QModelIndex &item) const;
-    brixel::RowPainter rowPainter(QPainter &painter) const;
+    BrixelPrivate::RowPainter rowPainter(QPainter &painter) const;
     void drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item);
-    void drawRow(brixel::RowPainter &rows, const QRect &rowRect, const QModelIndex &item);
-    void drawSelection(brixel::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const;
+    void drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item);
+    void drawSelection(BrixelPrivate::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const;
     void drawIndicator(QPainter &painter, const QModelIndex &item);
-    void drawContextMenuHighlight(brixel::RowPainter &rows);
-    void drawDropTarget(brixel::RowPainter &rows) const;
-    void setDropTarget(const brixel::DropTarget &target, QList<QPersistentModelIndex> rows);
+    void drawContextMenuHighlight(BrixelPrivate::RowPainter &rows);
+    void drawDropTarget(BrixelPrivate::RowPainter &rows) const;
+    void setDropTarget(const BrixelPrivate::DropTarget &target, QList<QPersistentModelIndex> rows);
     QPixmap dragPicture(const QModelIndexList &indexes, const QRect &area);
 
     ZARNOutlineView *const q;
-    brixel::ItemViewBehaviour *const behaviour;
-    brixel::TableColumnList *columns = nullptr;
-    brixel::HighlightGradientCache gradient;
+    BrixelPrivate::ItemViewBehaviour *const behaviour;
+    BrixelPrivate::TableColumnList *columns = nullptr;
+    BrixelPrivate::HighlightGradientCache gradient;
     ZARNOutlineViewDelegate *delegate = nullptr;
     quint32 highlightStyle = 0;
     bool highlightFollowsIndentation = true;
@@ -131,14 +131,14 @@ public:
 
     // The rows of one QTreeView::paintEvent() share one painter and its row painter.
     bool painting = false;
-    std::optional<brixel::RowPainter> pass;
+    std::optional<BrixelPrivate::RowPainter> pass;
     // The library's disclosure artwork, looked up once per painting pass.
     std::optional<QImage> expandedArt;
     std::optional<QImage> collapsedArt;
 
     // The drop a drag over the view would make. Its rows number dropRows: the row under the
     // drag and the rows next to it that exist.
-    brixel::DropTarget dropTarget;
+    BrixelPrivate::DropTarget dropTarget;
     QList<QPersistentModelIndex> dropRows;
 
     bool trackingDrop = false;
@@ -152,7 +152,7 @@ public:
 
 ZARNOutlineViewPrivate::ZARNOutlineViewPrivate(ZARNOutlineView *view)
     : q(view)
-    , behaviour(new brixel::ItemViewBehaviour(view))
+    , behaviour(new BrixelPrivate::ItemViewBehaviour(view))
 {
 }
 
@@ -186,7 +186,7 @@ void ZARNOutlineViewPrivate::contextClick(const QMouseEvent &event)
     const QModelIndex item = rowItemAt(event.position().toPoint());
     if (item.isValid()) {
         if (!q->selectionModel()->rowIntersectsSelection(item.row(), item.parent()))
-            brixel::selectRowAlone(q, item);
+            BrixelPrivate::selectRowAlone(q, item);
         q->viewport()->update();
     }
     behaviour->popUpMenu(behaviour->menu(), item, event.globalPosition().toPoint());
@@ -240,13 +240,13 @@ QImage ZARNOutlineViewPrivate::customHighlightImage(const QModelIndex &item) con
     return delegate ? delegate->outlineViewCustomHighlightImageForItem(q, item).value_or(QImage()) : QImage();
 }
 
-brixel::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter) const
+BrixelPrivate::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter) const
 {
     QStyleOptionViewItem option;
     q->initViewItemOption(&option);
     // The text-cell inset keeps clear of the disclosure markers' column.
-    const brixel::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), outlineColumnIndex() != 0};
-    return brixel::RowPainter(
+    const BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), outlineColumnIndex() != 0};
+    return BrixelPrivate::RowPainter(
         painter, *q, std::move(option), columns->tableColumns(), options,
         [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
             if (delegate)
@@ -258,7 +258,7 @@ brixel::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter) const
 void ZARNOutlineViewPrivate::drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item)
 {
     if (!painting) {
-        brixel::RowPainter rows = rowPainter(painter);
+        BrixelPrivate::RowPainter rows = rowPainter(painter);
         drawRow(rows, rowRect, item);
         return;
     }
@@ -267,7 +267,7 @@ void ZARNOutlineViewPrivate::drawRow(QPainter &painter, const QRect &rowRect, co
     drawRow(*pass, rowRect, item);
 }
 
-void ZARNOutlineViewPrivate::drawRow(brixel::RowPainter &rows, const QRect &rowRect, const QModelIndex &item)
+void ZARNOutlineViewPrivate::drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item)
 {
     if (delegate)
         delegate->outlineViewWillDrawItem(q, item, rowRect);
@@ -280,11 +280,11 @@ void ZARNOutlineViewPrivate::drawRow(brixel::RowPainter &rows, const QRect &rowR
     rows.drawCells(item, selected, showsMarker ? -1 : outlineColumnIndex());
 }
 
-void ZARNOutlineViewPrivate::drawSelection(brixel::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const
+void ZARNOutlineViewPrivate::drawSelection(BrixelPrivate::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const
 {
     if (highlightFollowsIndentation) {
         const bool expandable = q->model()->hasChildren(item);
-        rowRect.setLeft(rowRect.left() + brixel::indentationOffset(levelOf(item, q->rootIndex()), q->indentation(), expandable));
+        rowRect.setLeft(rowRect.left() + BrixelPrivate::indentationOffset(levelOf(item, q->rootIndex()), q->indentation(), expandable));
     }
     rows.drawSelection(rowRect, customHighlightImage(item));
 }
@@ -303,7 +303,7 @@ void ZARNOutlineViewPrivate::drawIndicator(QPainter &painter, const QModelIndex 
     if (!image) {
         std::optional<QImage> &art = expanded ? expandedArt : collapsedArt;
         if (!art)
-            art = imageNamed(expanded ? QStringLiteral("expanded") : QStringLiteral("collapsed"), QStringLiteral("ZARNOutlineView"));
+            art = Brixel::imageNamed(expanded ? QStringLiteral("expanded") : QStringLiteral("collapsed"), QStringLiteral("ZARNOutlineView"));
         image = art;
     }
     if (image->isNull())
@@ -316,7 +316,7 @@ void ZARNOutlineViewPrivate::drawIndicator(QPainter &painter, const QModelIndex 
     painter.drawImage(QPointF(x, y), *image);
 }
 
-void ZARNOutlineViewPrivate::drawContextMenuHighlight(brixel::RowPainter &rows)
+void ZARNOutlineViewPrivate::drawContextMenuHighlight(BrixelPrivate::RowPainter &rows)
 {
     const QModelIndex item = behaviour->contextMenuItem();
     const QRect rect = rowRect(item);
@@ -325,30 +325,30 @@ void ZARNOutlineViewPrivate::drawContextMenuHighlight(brixel::RowPainter &rows)
     drawRow(rows, rect, item);
 }
 
-void ZARNOutlineViewPrivate::drawDropTarget(brixel::RowPainter &rows) const
+void ZARNOutlineViewPrivate::drawDropTarget(BrixelPrivate::RowPainter &rows) const
 {
     const auto rectOfRow = [this](int row) {
         return row >= 0 && row < dropRows.size() ? QRectF(rowRect(dropRows[row])) : QRectF();
     };
     switch (dropTarget.kind) {
-    case brixel::DropTarget::Kind::None:
+    case BrixelPrivate::DropTarget::Kind::None:
         return;
-    case brixel::DropTarget::Kind::OnView:
+    case BrixelPrivate::DropTarget::Kind::OnView:
         rows.drawDropOnView(q->viewport()->rect());
         return;
-    case brixel::DropTarget::Kind::OnRow:
+    case BrixelPrivate::DropTarget::Kind::OnRow:
         // A custom highlight image does not change the outline's drop frame.
         if (const QRectF rect = rectOfRow(dropTarget.row); !rect.isEmpty())
             rows.drawDropOnRow(rect, isRowSelected(dropRows[dropTarget.row]), false);
         return;
-    case brixel::DropTarget::Kind::BetweenRows:
+    case BrixelPrivate::DropTarget::Kind::BetweenRows:
         rows.drawDropBetweenRows(dropTarget.row, dropTarget.lowerRow, int(dropRows.size()), rectOfRow,
                                  q->viewport()->rect(), dropTarget.offset);
         return;
     }
 }
 
-void ZARNOutlineViewPrivate::setDropTarget(const brixel::DropTarget &target, QList<QPersistentModelIndex> rows)
+void ZARNOutlineViewPrivate::setDropTarget(const BrixelPrivate::DropTarget &target, QList<QPersistentModelIndex> rows)
 {
     if (target == dropTarget && rows == dropRows)
         return;
@@ -365,8 +365,8 @@ QPixmap ZARNOutlineViewPrivate::dragPicture(const QModelIndexList &indexes, cons
         if (!items.contains(item))
             items.append(item);
     }
-    return brixel::viewportPicture(*q, area, [&](QPainter &painter) {
-        brixel::RowPainter rows = rowPainter(painter);
+    return BrixelPrivate::viewportPicture(*q, area, [&](QPainter &painter) {
+        BrixelPrivate::RowPainter rows = rowPainter(painter);
         for (const QPersistentModelIndex &item : std::as_const(items))
             rows.drawCells(item, isRowSelected(item), showsMarkerFor(item) ? -1 : outlineColumnIndex());
     });
@@ -404,7 +404,7 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
     columnHeader->setStretchLastSection(true);
     columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setHeader(columnHeader);
-    d->columns = new brixel::TableColumnList(this, columnHeader, this);
+    d->columns = new BrixelPrivate::TableColumnList(this, columnHeader, this);
     columnHeader->setColumnList(d->columns);
     setItemDelegate(new ZARNTextFieldCell(this));
     setDropIndicatorShown(false);
@@ -413,8 +413,8 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
         if (d->trackingDrop)
             d->autoExpanded.append(item);
     });
-    connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
-    connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, &ZARNOutlineView::doItemsLayout);
+    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
+    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, &ZARNOutlineView::doItemsLayout);
 }
 
 ZARNOutlineView::~ZARNOutlineView() = default;
@@ -645,19 +645,19 @@ void ZARNOutlineView::keyPressEvent(QKeyEvent *event)
 {
     if (!isEnabled())
         return;
-    switch (brixel::keyRole(event->key())) {
-    case brixel::KeyRole::ReturnKey:
+    switch (BrixelPrivate::keyRole(event->key())) {
+    case BrixelPrivate::KeyRole::ReturnKey:
         if (d->delegate)
             d->delegate->outlineViewReturnKey(this);
         return;
-    case brixel::KeyRole::DeleteBackward:
+    case BrixelPrivate::KeyRole::DeleteBackward:
         deleteBackward();
         return;
-    case brixel::KeyRole::SelectionMove:
+    case BrixelPrivate::KeyRole::SelectionMove:
         if (d->behaviour->moveChangesSelectedRow([&] { QTreeView::keyPressEvent(event); }) && d->delegate)
             d->delegate->outlineViewSelectionIsChanging({QString(NSTableViewSelectionIsChangingNotification), this, {}});
         return;
-    case brixel::KeyRole::Other:
+    case BrixelPrivate::KeyRole::Other:
         QTreeView::keyPressEvent(event);
         return;
     }
@@ -684,7 +684,7 @@ void ZARNOutlineView::mousePressEvent(QMouseEvent *event)
     QTreeView::mousePressEvent(shifted.get());
     event->setAccepted(shifted->isAccepted());
     d->forwardingMouse = false;
-    if (brixel::controlClickSelectsFirst(event))
+    if (BrixelPrivate::controlClickSelectsFirst(event))
         d->behaviour->popUpMenu(menu(), d->rowItemAt(d->pressPosition), event->globalPosition().toPoint());
 }
 
@@ -710,7 +710,7 @@ void ZARNOutlineView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (!isEnabled())
         return;
-    if (brixel::isControlClick(event)) {
+    if (BrixelPrivate::isControlClick(event)) {
         d->behaviour->popUpMenu(menu(), d->rowItemAt(event->position().toPoint()), event->globalPosition().toPoint());
         return;
     }
@@ -753,10 +753,10 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
         });
         QTreeView::paintEvent(event);
     }
-    if (!d->behaviour->contextMenuItem().isValid() && d->dropTarget.kind == brixel::DropTarget::Kind::None)
+    if (!d->behaviour->contextMenuItem().isValid() && d->dropTarget.kind == BrixelPrivate::DropTarget::Kind::None)
         return;
     QPainter painter(viewport());
-    brixel::RowPainter rows = d->rowPainter(painter);
+    BrixelPrivate::RowPainter rows = d->rowPainter(painter);
     d->drawContextMenuHighlight(rows);
     d->drawDropTarget(rows);
 }
@@ -770,7 +770,7 @@ void ZARNOutlineView::resizeEvent(QResizeEvent *event)
 
 void ZARNOutlineView::startDrag(Qt::DropActions supportedActions)
 {
-    brixel::ItemViewBehaviour::DragHooks hooks;
+    BrixelPrivate::ItemViewBehaviour::DragHooks hooks;
     hooks.image = [this](const QModelIndexList &indexes, const QRect &area) { return d->dragPicture(indexes, area); };
     d->behaviour->startDrag(selectedIndexes(), supportedActions, defaultDropAction(), d->pressPosition, hooks);
 }
@@ -795,7 +795,7 @@ void ZARNOutlineView::dragMoveEvent(QDragMoveEvent *event)
         return;
     }
     if (!item.isValid()) {
-        d->setDropTarget({brixel::DropTarget::Kind::OnView}, {});
+        d->setDropTarget({BrixelPrivate::DropTarget::Kind::OnView}, {});
         return;
     }
     // The row under the drag and those next to it, numbered from the one above (if any).
@@ -809,7 +809,7 @@ void ZARNOutlineView::dragMoveEvent(QDragMoveEvent *event)
     // A line between rows starts where the item's own cell does, after its indentation.
     const ZARNTableColumn *first = d->columns->columnAt(0);
     const qreal offset = first ? visualRect(item.siblingAtColumn(first->modelColumn())).x() : 0.0;
-    const brixel::DropTarget target = brixel::dropTargetAt(row, d->rowRect(item), position.y(),
+    const BrixelPrivate::DropTarget target = BrixelPrivate::dropTargetAt(row, d->rowRect(item), position.y(),
                                                            item.flags().testFlag(Qt::ItemIsDropEnabled), offset);
     d->setDropTarget(target, std::move(rows));
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTableColumn.h"
 
-#include "ZARNTableColumnList.h"
+#include "TableColumnList_p.h"
 
 #include <QAbstractItemView>
 #include <QHeaderView>
@@ -24,7 +24,7 @@ int sectionSizeFor(float width, const QHeaderView &header)
 
 } // namespace
 
-ZARNTableColumn::ZARNTableColumn(const brixel::TableColumnList &list, int modelColumn, const QString &identifier)
+ZARNTableColumn::ZARNTableColumn(const BrixelPrivate::TableColumnList &list, int modelColumn, const QString &identifier)
     : m_list(list)
     , m_modelColumn(modelColumn)
     , m_identifier(identifier)

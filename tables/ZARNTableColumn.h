@@ -8,7 +8,7 @@
 class QAbstractItemDelegate;
 class QAbstractItemView;
 
-namespace brixel {
+namespace BrixelPrivate {
 class TableColumnList;
 }
 
@@ -17,7 +17,7 @@ class TableColumnList;
  * column, with an identifier to find it by, width limits, an editable flag and the delegate
  * that draws its cells.
  *
- * Column objects are made and owned by the view's column list (brixel::TableColumnList), one
+ * Column objects are made and owned by the view's column list (BrixelPrivate::TableColumnList), one
  * per model column; they live until their model column is removed, the view gets another
  * model, or the list is destroyed.
  *
@@ -94,10 +94,10 @@ public:
     bool isHidden() const;
 
 private:
-    friend class brixel::TableColumnList;
-    ZARNTableColumn(const brixel::TableColumnList &list, int modelColumn, const QString &identifier);
+    friend class BrixelPrivate::TableColumnList;
+    ZARNTableColumn(const BrixelPrivate::TableColumnList &list, int modelColumn, const QString &identifier);
 
-    const brixel::TableColumnList &m_list;
+    const BrixelPrivate::TableColumnList &m_list;
     int m_modelColumn;
     QString m_identifier;
     float m_minWidth = 10.0f;

@@ -1,21 +1,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTableView.h"
 
-#include "ZARNEditingMoves.h"
-#include "ZARNHighlightGradient.h"
-#include "ZARNItemViewBehaviour.h"
+#include "EditingMoves_p.h"
+#include "HighlightGradientCache_p.h"
+#include "ItemViewBehaviour_p.h"
 #include "ZARNNSTableHeaderView.h"
-#include "ZARNRowPainter.h"
+#include "RowPainter_p.h"
 #include "ZARNTableColumn.h"
-#include "ZARNTableColumnList.h"
+#include "TableColumnList_p.h"
 #include "ZARNTableViewDataSource.h"
 #include "ZARNTableViewDelegate.h"
 #include "ZARNTextFieldCell.h"
 
-#include <Brixel/ZARNAttributedStringDrawing.h>
-#include <Brixel/ZARNGeometry.h>
-#include <Brixel/ZARNNotification.h>
-#include <Brixel/ZARNTextTruncation.h>
+#include "../drawing/ZARNAttributedStringDrawing.h"
+#include "../drawing/ZARNGeometry.h"
+#include "../platform/ZARNNotification.h"
+#include "../drawing/ZARNTextTruncation.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -66,16 +66,16 @@ public:
     }
 
     /// The table cell of a model index; nullopt when its column is hidden.
-    std::optional<brixel::Cell> cellForIndex(const QModelIndex &index) const
+    std::optional<BrixelPrivate::Cell> cellForIndex(const QModelIndex &index) const
     {
         const int column = columns->columnIndex(columns->columnForModelColumn(index.column()));
         if (column < 0)
             return std::nullopt;
-        return brixel::Cell{index.row(), column};
+        return BrixelPrivate::Cell{index.row(), column};
     }
 
     /// The model index of a table cell; invalid outside the table.
-    QModelIndex indexForCell(brixel::Cell cell) const
+    QModelIndex indexForCell(BrixelPrivate::Cell cell) const
     {
         const ZARNTableColumn *column = columns->columnAt(cell.column);
         if (!column || !q->model())
@@ -122,11 +122,11 @@ public:
         return delegate ? delegate->tableViewCustomHighlightImageForRow(q, row).value_or(QImage()) : QImage();
     }
 
-    brixel::RowPainter rowPainter(QPainter &painter) const
+    BrixelPrivate::RowPainter rowPainter(QPainter &painter) const
     {
         QStyleOptionViewItem option;
         q->initViewItemOption(&option);
-        return brixel::RowPainter(
+        return BrixelPrivate::RowPainter(
             painter, *q, std::move(option), columns->tableColumns(), {highlightStyle, behaviour->inDragPrep(), true},
             [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
                 if (delegate)
@@ -135,7 +135,7 @@ public:
             [this] { return q->highlightGradientImage(); });
     }
 
-    void drawRow(brixel::RowPainter &rows, int row) const
+    void drawRow(BrixelPrivate::RowPainter &rows, int row) const
     {
         rows.drawCells(rowIndex(row), isRowSelected(row));
     }
@@ -169,7 +169,7 @@ public:
     }
 
     /// The open context menu's row drawn highlighted over the rest, when it is selected.
-    void drawContextMenuHighlight(QPainter &painter, brixel::RowPainter &rows) const
+    void drawContextMenuHighlight(QPainter &painter, BrixelPrivate::RowPainter &rows) const
     {
         const int row = q->contextMenuRow();
         const QRect rect = q->rectOfRow(row);
@@ -181,16 +181,16 @@ public:
             drawGrid(painter, RowList{row}, rect);
     }
 
-    void drawDropTarget(brixel::RowPainter &rows) const
+    void drawDropTarget(BrixelPrivate::RowPainter &rows) const
     {
         const QRectF bounds = q->viewport()->rect();
         switch (dropTarget.kind) {
-        case brixel::DropTarget::Kind::None:
+        case BrixelPrivate::DropTarget::Kind::None:
             return;
-        case brixel::DropTarget::Kind::OnView:
+        case BrixelPrivate::DropTarget::Kind::OnView:
             rows.drawDropOnView(bounds);
             return;
-        case brixel::DropTarget::Kind::OnRow:
+        case BrixelPrivate::DropTarget::Kind::OnRow:
             if (dropTarget.row < rowCount()) {
                 // The same question the outline view asks: a row with its own highlight image
                 // gets the frame on its full rectangle.
@@ -199,7 +199,7 @@ public:
                 rows.drawDropOnRow(q->rectOfRow(dropTarget.row), isRowSelected(dropTarget.row), hugsRow);
             }
             return;
-        case brixel::DropTarget::Kind::BetweenRows:
+        case BrixelPrivate::DropTarget::Kind::BetweenRows:
             rows.drawDropBetweenRows(dropTarget.row, dropTarget.lowerRow, rowCount(),
                                      [this](int row) { return QRectF(q->rectOfRow(row)); }, bounds, dropTarget.offset);
             return;
@@ -216,14 +216,14 @@ public:
         }
         const QRect viewport = q->viewport()->rect();
         const float width = float(viewport.width());
-        const float height = ZARNAttributedStringHeightForWidth(*message, width - 20.0f);
+        const float height = Brixel::ZARNAttributedStringHeightForWidth(*message, width - 20.0f);
         if (height > float(viewport.height()))
             return;
-        const ZARNRect rect = ZARNRectCenterOnRect({10.0f, 0.0f, width - 20.0f, height}, ZARNRect::fromQRectF(viewport));
-        brixel::drawAttributedString(painter, *message, rect.toQRectF(), true, false);
+        const ZARNRect rect = Brixel::ZARNRectCenterOnRect({10.0f, 0.0f, width - 20.0f, height}, ZARNRect::fromQRectF(viewport));
+        Brixel::drawAttributedString(painter, *message, rect.toQRectF(), true, false);
     }
 
-    void setDropTarget(const brixel::DropTarget &target)
+    void setDropTarget(const BrixelPrivate::DropTarget &target)
     {
         if (target == dropTarget)
             return;
@@ -239,22 +239,22 @@ public:
             rows.append(index.row());
         std::sort(rows.begin(), rows.end());
         rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-        return brixel::viewportPicture(*q, area, [&](QPainter &painter) {
-            brixel::RowPainter painterForRows = rowPainter(painter);
+        return BrixelPrivate::viewportPicture(*q, area, [&](QPainter &painter) {
+            BrixelPrivate::RowPainter painterForRows = rowPainter(painter);
             for (const int row : rows)
                 drawRow(painterForRows, row);
         });
     }
 
     ZARNTableView *const q;
-    brixel::ItemViewBehaviour *behaviour = nullptr;
-    std::unique_ptr<brixel::TableColumnList> columns;
-    brixel::HighlightGradientCache gradientCache;
+    BrixelPrivate::ItemViewBehaviour *behaviour = nullptr;
+    std::unique_ptr<BrixelPrivate::TableColumnList> columns;
+    BrixelPrivate::HighlightGradientCache gradientCache;
     ZARNTableViewDelegate *delegate = nullptr;
     quint32 highlightStyle = ZARNTableView::Rectangle;
     QString emptyString;
     std::optional<ZARNAttributedString> emptyAttributedString;
-    brixel::DropTarget dropTarget;
+    BrixelPrivate::DropTarget dropTarget;
     QPoint pressPosition;
     QPersistentModelIndex editedIndex;
 };
@@ -265,14 +265,14 @@ ZARNTableView::ZARNTableView(QWidget *parent)
 {
     auto *header = new ZARNNSTableHeaderView(this);
     setHorizontalHeader(header);
-    d->columns = std::make_unique<brixel::TableColumnList>(this, header);
+    d->columns = std::make_unique<BrixelPrivate::TableColumnList>(this, header);
     header->setColumnList(d->columns.get());
     setSelectionBehavior(SelectRows);
     setDropIndicatorShown(false);
     setItemDelegate(new ZARNTextFieldCell(this));
-    d->behaviour = new brixel::ItemViewBehaviour(this);
-    connect(d->behaviour, &brixel::ItemViewBehaviour::liveResizeEnded, this, &ZARNTableView::viewDidEndLiveResize);
-    connect(d->behaviour, &brixel::ItemViewBehaviour::applicationBecameActive, this, &ZARNTableView::userDefaultsDidChange);
+    d->behaviour = new BrixelPrivate::ItemViewBehaviour(this);
+    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, &ZARNTableView::viewDidEndLiveResize);
+    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::applicationBecameActive, this, &ZARNTableView::userDefaultsDidChange);
 }
 
 ZARNTableView::~ZARNTableView() = default;
@@ -359,7 +359,7 @@ int ZARNTableView::contextMenuRow() const
 
 int ZARNTableView::selectedRow() const
 {
-    const QModelIndex item = brixel::selectedRowItem(this);
+    const QModelIndex item = BrixelPrivate::selectedRowItem(this);
     return item.isValid() ? item.row() : -1;
 }
 
@@ -449,24 +449,24 @@ bool ZARNTableView::isEditableAtColumn(int column, int row)
 
 void ZARNTableView::keyPressEvent(QKeyEvent *event)
 {
-    switch (brixel::keyRole(event->key())) {
-    case brixel::KeyRole::ReturnKey:
+    switch (BrixelPrivate::keyRole(event->key())) {
+    case BrixelPrivate::KeyRole::ReturnKey:
         if (d->delegate)
             d->delegate->tableViewReturnKey(this);
         event->accept();
         return;
-    case brixel::KeyRole::DeleteBackward:
+    case BrixelPrivate::KeyRole::DeleteBackward:
         deleteBackward();
         event->accept();
         return;
-    case brixel::KeyRole::SelectionMove:
+    case BrixelPrivate::KeyRole::SelectionMove:
         if (d->behaviour->moveChangesSelectedRow([&] { QTableView::keyPressEvent(event); })) {
             if (d->delegate)
                 d->delegate->tableViewSelectionIsChanging({QString(NSTableViewSelectionIsChangingNotification), this, {}});
             Q_EMIT selectionIsChanging();
         }
         return;
-    case brixel::KeyRole::Other:
+    case BrixelPrivate::KeyRole::Other:
         QTableView::keyPressEvent(event);
         return;
     }
@@ -479,7 +479,7 @@ void ZARNTableView::mousePressEvent(QMouseEvent *event)
         contextClick(event);
         return;
     }
-    if (brixel::isControlClick(event)) {
+    if (BrixelPrivate::isControlClick(event)) {
         const QModelIndex item = d->rowIndex(rowAt(event->position().toPoint().y()));
         d->behaviour->popUpMenu(menuForEvent(event), item, event->globalPosition().toPoint());
         return;
@@ -500,7 +500,7 @@ void ZARNTableView::mouseDoubleClickEvent(QMouseEvent *event)
 
 QMenu *ZARNTableView::menuForEvent(QMouseEvent *event)
 {
-    if (brixel::controlClickSelectsFirst(event))
+    if (BrixelPrivate::controlClickSelectsFirst(event))
         QTableView::mousePressEvent(event);
     return menu();
 }
@@ -522,7 +522,7 @@ void ZARNTableView::contextClick(QMouseEvent *event)
                 && dataSource->tableViewShouldSelectRow(this, row).value_or(false));
         if (selectAlone) {
             const int column = currentIndex().isValid() ? currentIndex().column() : 0;
-            brixel::selectRowAlone(this, model()->index(row, column, rootIndex()));
+            BrixelPrivate::selectRowAlone(this, model()->index(row, column, rootIndex()));
         }
     }
     d->behaviour->popUpMenu(menu(), d->rowIndex(row), event->globalPosition().toPoint());
@@ -541,7 +541,7 @@ void ZARNTableView::paintEvent(QPaintEvent *event)
     if (d->delegate)
         d->delegate->tableViewWillDrawRect(this, area);
     QPainter painter(viewport());
-    brixel::RowPainter rows = d->rowPainter(painter);
+    BrixelPrivate::RowPainter rows = d->rowPainter(painter);
     const RowList shown = d->visibleRows(area);
     // All shapes first: a shape may reach into its neighbours' rows by its antialiased edge.
     for (const int row : shown) {
@@ -569,7 +569,7 @@ void ZARNTableView::dragMoveEvent(QDragMoveEvent *event)
     const QPoint position = event->position().toPoint();
     const QModelIndex index = indexAt(position);
     const int row = index.isValid() ? index.row() : -1;
-    d->setDropTarget(brixel::dropTargetAt(row, rectOfRow(row), position.y(),
+    d->setDropTarget(BrixelPrivate::dropTargetAt(row, rectOfRow(row), position.y(),
                                           index.flags().testFlag(Qt::ItemIsDropEnabled), 0.0));
 }
 
@@ -600,15 +600,15 @@ bool ZARNTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *
 
 void ZARNTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
 {
-    const brixel::TextMovement movement = brixel::textMovementForHint(hint);
+    const BrixelPrivate::TextMovement movement = BrixelPrivate::textMovementForHint(hint);
     const QModelIndex edited = d->editedIndex;
-    const std::optional<brixel::Cell> from = edited.isValid() && indexWidget(edited) == editor
+    const std::optional<BrixelPrivate::Cell> from = edited.isValid() && indexWidget(edited) == editor
         ? d->cellForIndex(edited)
         : std::nullopt;
-    std::optional<brixel::Cell> target;
+    std::optional<BrixelPrivate::Cell> target;
     if (from) {
-        target = brixel::nextEditableCell(movement, *from, model()->rowCount(rootIndex()), numberOfColumns(),
-                                          [this](brixel::Cell cell) { return isEditableAtColumn(cell.column, cell.row); });
+        target = BrixelPrivate::nextEditableCell(movement, *from, model()->rowCount(rootIndex()), numberOfColumns(),
+                                          [this](BrixelPrivate::Cell cell) { return isEditableAtColumn(cell.column, cell.row); });
     }
     if (!target) {
         QTableView::closeEditor(editor, hint);
@@ -617,7 +617,7 @@ void ZARNTableView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditH
 
     commitData(editor);
     QTableView::closeEditor(editor, QAbstractItemDelegate::SubmitModelCache);
-    if (movement == brixel::TextMovement::Tab && d->delegate)
+    if (movement == BrixelPrivate::TextMovement::Tab && d->delegate)
         d->delegate->tableViewWillTabToColumn(this, target->column, target->row, from->column, from->row);
     editCell(d->indexForCell(*target));
 }
@@ -626,7 +626,7 @@ void ZARNTableView::editCell(const QModelIndex &index)
 {
     if (!index.isValid())
         return;
-    brixel::selectRowAlone(this, index);
+    BrixelPrivate::selectRowAlone(this, index);
     // With the CurrentChanged trigger, moving the current index has opened the editor already.
     if (!editTriggers().testFlag(CurrentChanged))
         edit(index, AllEditTriggers, nullptr);
@@ -638,7 +638,7 @@ void ZARNTableView::editCell(const QModelIndex &index)
 
 void ZARNTableView::startDrag(Qt::DropActions supportedActions)
 {
-    brixel::ItemViewBehaviour::DragHooks hooks;
+    BrixelPrivate::ItemViewBehaviour::DragHooks hooks;
     hooks.image = [this](const QModelIndexList &indexes, const QRect &area) { return d->dragPicture(indexes, area); };
     hooks.run = [this](QDrag *drag, Qt::DropActions supported, Qt::DropAction action) {
         return execDrag(drag, supported, action);

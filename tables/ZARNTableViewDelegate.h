@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNNotification.h>
+#include "../platform/ZARNNotification.h"
 #include <Brixel/brixel_export.h>
 
 #include <QImage>

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTextFieldCell.h"
+#include "CellHighlighting_p.h"
 
-#include <Brixel/NSAttributedString_Category.h>
-#include <Brixel/NSMutableAttributedString_Category.h>
-#include <Brixel/ZARNAttributedStringDrawing.h>
-#include <Brixel/ZARNSystemVersion.h>
-#include <Brixel/ZARNTableView.h>
-#include <Brixel/ZARNTextTruncation.h>
+#include "../values/NSAttributedString_Category.h"
+#include "../values/NSMutableAttributedString_Category.h"
+#include "../drawing/ZARNAttributedStringDrawing.h"
+#include "../platform/ZARNSystemVersion.h"
+#include "ZARNTableView.h"
+#include "../drawing/ZARNTextTruncation.h"
 
 #include <QBrush>
 #include <QIcon>
@@ -40,7 +41,7 @@ QColor foregroundColor(const QVariant &value)
 }
 
 // Draws \a layout in the cell \a bounds: inside the padding, placed vertically by \a alignment.
-void placeText(QPainter &painter, const brixel::AttributedTextLayout &layout, const QRectF &bounds,
+void placeText(QPainter &painter, const ZARNAttributedTextLayout &layout, const QRectF &bounds,
                Qt::Alignment alignment)
 {
     const qreal height = layout.height();
@@ -112,14 +113,14 @@ ZARNRect ZARNTextFieldCell::titleRectForBounds(const ZARNRect &bounds) const
 
 QSizeF ZARNTextFieldCell::textCellSize(const QString &text, const QFont &font)
 {
-    const brixel::AttributedTextLayout layout(text, font, Qt::black, Qt::AlignLeft);
+    const ZARNAttributedTextLayout layout(text, font, Qt::black, Qt::AlignLeft);
     return {layout.width() + 2 * horizontalPadding, layout.height()};
 }
 
 qreal ZARNTextFieldCell::dotsWidth(const QFont &font) const
 {
     if (m_dotsFont != font) {
-        m_dotsWidth = brixel::AttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
+        m_dotsWidth = ZARNAttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
         m_dotsFont = font;
     }
     return m_dotsWidth;
@@ -128,12 +129,12 @@ qreal ZARNTextFieldCell::dotsWidth(const QFont &font) const
 void ZARNTextFieldCell::drawAttributedText(QPainter &painter, const ZARNAttributedString &text, const QRectF &bounds,
                                            Qt::Alignment alignment) const
 {
-    const brixel::AttributedTextLayout whole(text, 0, false);
+    const ZARNAttributedTextLayout whole(text, 0, false);
     if (fitsCell(whole.width(), bounds.width())) {
         placeText(painter, whole, bounds, alignment);
         return;
     }
-    const brixel::AttributedTextLayout shortened(TruncateAttributedString(text, float(bounds.width())), 0, false);
+    const ZARNAttributedTextLayout shortened(Brixel::TruncateAttributedString(text, float(bounds.width())), 0, false);
     // Only "..." is left and even that is too wide: the cell shows nothing.
     if (fitsCell(shortened.width(), bounds.width()))
         placeText(painter, shortened, bounds, alignment);
@@ -151,12 +152,12 @@ void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &opt
     const QRectF bounds = option.rect;
     const Qt::Alignment vertical = style.alignment & verticalMask;
     if (option.state & QStyle::State_Selected) {
-        drawAttributedText(*painter, brixel::highlightedCellText(attributedString(style), style.font, ZARNSystemVersion()),
+        drawAttributedText(*painter, BrixelPrivate::highlightedCellText(attributedString(style), style.font, Brixel::ZARNSystemVersion()),
                            bounds, vertical);
         return;
     }
     // Most cells fit: lay the text out once, plainly, and draw that same layout.
-    const brixel::AttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
+    const ZARNAttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
     if (fitsCell(layout.width(), bounds.width()))
         placeText(*painter, layout, bounds, vertical);
     else if (fitsCell(dotsWidth(style.font), bounds.width()))
@@ -195,7 +196,7 @@ ZARNTextFieldCell *ZARNTextFieldCell::copy(QObject *parent) const
     return cell;
 }
 
-ZARNAttributedString brixel::highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
+ZARNAttributedString BrixelPrivate::highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
                                                  quint32 systemVersion)
 {
     if (text.isEmpty())
@@ -205,15 +206,15 @@ ZARNAttributedString brixel::highlightedCellText(const ZARNAttributedString &tex
     const QVariant shadow = QVariant::fromValue(ZARNTableView::standardShadow());
     const QColor white(Qt::white);
     if (systemVersion < 0x1040) {
-        replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
+        Brixel::replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
         copy.addAttribute(ZARNShadowAttributeName, shadow, whole);
         return copy;
     }
     copy.addAttribute(ZARNShadowAttributeName, shadow, whole);
-    const QVariant font = attribute(copy, ZARNFontAttributeName);
+    const QVariant font = Brixel::attribute(copy, ZARNFontAttributeName);
     QFont bold = font.isValid() ? font.value<QFont>() : cellFont;
     bold.setBold(true);
     copy.addAttribute(ZARNFontAttributeName, bold, whole);
-    replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
+    Brixel::replaceAttribute(copy, ZARNForegroundColorAttributeName, white);
     return copy;
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNAttributedString.h>
-#include <Brixel/ZARNRect.h>
+#include "../platform/ZARNAttributedString.h"
+#include "../platform/ZARNRect.h"
 #include <Brixel/brixel_export.h>
 
 #include <QColor>
@@ -26,7 +26,7 @@
  * TruncateAttributedString(); a cell too narrow even for "..." draws no text.
  *
  * QStyle::State_Selected in the option means "draw the contents highlighted": the text is
- * restyled with brixel::highlightedCellText() (white, with the table's standard shadow, bold
+ * restyled with BrixelPrivate::highlightedCellText() (white, with the table's standard shadow, bold
  * on newer systems). The cell never paints a selection background; the view draws the
  * selection shape under its cells.
  *
@@ -126,24 +126,3 @@ private:
     mutable std::optional<QFont> m_dotsFont;
     mutable qreal m_dotsWidth = 0;
 };
-
-namespace brixel {
-
-/**
- * \a text restyled for a selected row, on a copy:
- * - \a systemVersion below 0x1040: white foreground on every character that has attributes
- *   (see replaceAttribute()), then ZARNTableView::standardShadow() on every character;
- * - 0x1040 and later: the standard shadow on every character, then the bold form of the font
- *   at the first character (or of \a cellFont when that character has none) on every
- *   character, then white foreground on every character.
- *
- * Empty text is returned as it is.
- *
- * \code
- * const ZARNAttributedString shown = brixel::highlightedCellText(value, cell->font(), ZARNSystemVersion());
- * \endcode
- */
-BRIXEL_EXPORT ZARNAttributedString highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
-                                                       quint32 systemVersion);
-
-} // namespace brixel

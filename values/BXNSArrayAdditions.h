@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNIndexSet.h>
-#include <Brixel/ZARNRange.h>
+#include "../platform/ZARNIndexSet.h"
+#include "../platform/ZARNRange.h"
 
 #include <QList>
 
@@ -11,6 +11,8 @@
  * Finding several elements of a list at once. Works on any QList<T> whose elements compare
  * with operator==.
  */
+
+namespace Brixel {
 
 /**
  * The indexes in \a array of the elements of \a objects: for each of them the index of the
@@ -33,3 +35,5 @@ ZARNIndexSet indexesOfObjects(const QList<T> &array, const QList<T> &objects)
     }
     return indexes;
 }
+
+} // namespace Brixel

@@ -16,7 +16,7 @@
  * compares the objects referred to, not their values.
  */
 
-namespace brixel {
+namespace BrixelPrivate {
 /// A list element that refers to an object: a raw pointer, or a smart pointer with get().
 template<typename T>
 concept ObjectReference = std::is_pointer_v<T> || requires(const T &reference) {
@@ -32,7 +32,9 @@ const void *objectIdentity(const T &reference)
     else
         return reference.get();
 }
-} // namespace brixel
+} // namespace BrixelPrivate
+
+namespace Brixel {
 
 /**
  * Inserts the elements of \a objects into \a array, in order, the first at \a index. An index
@@ -66,14 +68,14 @@ void insertObjects(QList<T> &array, const QList<T> &objects, qsizetype index)
  * removeObjectsInArray_Optimized(actions, {open});    // actions == {close}
  * \endcode
  */
-template<brixel::ObjectReference T>
+template<BrixelPrivate::ObjectReference T>
 void removeObjectsInArray_Optimized(QList<T> &array, const QList<T> &objects)
 {
     QSet<const void *> identities;
     identities.reserve(objects.size());
     for (const T &object : objects)
-        identities.insert(brixel::objectIdentity(object));
-    array.removeIf([&identities](const T &element) { return identities.contains(brixel::objectIdentity(element)); });
+        identities.insert(BrixelPrivate::objectIdentity(object));
+    array.removeIf([&identities](const T &element) { return identities.contains(BrixelPrivate::objectIdentity(element)); });
 }
 
 /**
@@ -91,3 +93,5 @@ void replaceObject(QList<T> &array, const T &oldObject, const T &newObject)
         throw std::out_of_range("replaceObject: the object is not in the list");
     array[index] = newObject;
 }
+
+} // namespace Brixel

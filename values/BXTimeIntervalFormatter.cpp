@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "BXTimeIntervalFormatter.h"
 
-#include "BrixelNumbers_p.h"
+#include "NumberText_p.h"
+#include "TimeIntervalComponents_p.h"
 
 #include <QList>
 
@@ -71,12 +72,12 @@ double clamped(double value, double minimum, double maximum)
 int remainderOf(double value, int component)
 {
     const ComponentUnits units = unitsOf(component);
-    return brixel::truncatedToInt32(value / units.scalar) % brixel::truncatedToInt32(units.base);
+    return Brixel::truncatedToInt32(value / units.scalar) % Brixel::truncatedToInt32(units.base);
 }
 
 QString millisecondsPiece(double remainder)
 {
-    QString text = brixel::fixedText(remainder, 3);
+    QString text = BrixelPrivate::fixedText(remainder, 3);
     if (remainder < 10)
         text.prepend(u'0');
     return text;
@@ -93,12 +94,12 @@ QList<QStringView> splitPieces(const QString &string, const QString &separator)
 
 } // namespace
 
-double _BXTimeIntervalComponentScalar(int component)
+double BrixelPrivate::_BXTimeIntervalComponentScalar(int component)
 {
     return unitsOf(component).scalar;
 }
 
-double _BXTimeIntervalComponentBase(int component)
+double BrixelPrivate::_BXTimeIntervalComponentBase(int component)
 {
     return unitsOf(component).base;
 }
@@ -147,7 +148,7 @@ int BXTimeIntervalFormatter::_componentCount() const
 
 double BXTimeIntervalFormatter::_valueForComponentString(QStringView string, int componentType) const
 {
-    return brixel::leadingNumber(string) * _BXTimeIntervalComponentScalar(componentType);
+    return BrixelPrivate::leadingNumber(string) * BrixelPrivate::_BXTimeIntervalComponentScalar(componentType);
 }
 
 QString BXTimeIntervalFormatter::stringForObjectValue(const QVariant &object) const
@@ -165,24 +166,24 @@ QString BXTimeIntervalFormatter::stringForObjectValue(const QVariant &object) co
     const bool milliseconds = smallest == BXTimeIntervalSecondsComponent && m_showsMilliseconds;
     if (count <= 1) {
         if (milliseconds)
-            return brixel::fixedText(value, 3);
+            return BrixelPrivate::fixedText(value, 3);
         // Divides by the base, not the scalar, on purpose: seconds alone show value / 60.
-        return QString::number(brixel::truncatedToInt32(value / _BXTimeIntervalComponentBase(smallest)));
+        return QString::number(Brixel::truncatedToInt32(value / BrixelPrivate::_BXTimeIntervalComponentBase(smallest)));
     }
     if (count > maximumShownComponents)
         return empty;
 
     // Largest component first: it never wraps and is not padded.
-    QString result = QString::number(brixel::truncatedToInt32(value / _BXTimeIntervalComponentScalar(m_maximumComponent)));
+    QString result = QString::number(Brixel::truncatedToInt32(value / BrixelPrivate::_BXTimeIntervalComponentScalar(m_maximumComponent)));
     result += m_componentSeparator;
     for (int component = m_maximumComponent - 1; component > smallest; --component) {
-        result += brixel::zeroPaddedBelowTen(remainderOf(value, component));
+        result += BrixelPrivate::zeroPaddedBelowTen(remainderOf(value, component));
         result += m_componentSeparator;
     }
     if (milliseconds)
-        result += millisecondsPiece(std::fmod(value, _BXTimeIntervalComponentBase(smallest)));
+        result += millisecondsPiece(std::fmod(value, BrixelPrivate::_BXTimeIntervalComponentBase(smallest)));
     else
-        result += brixel::zeroPaddedBelowTen(remainderOf(value, smallest));
+        result += BrixelPrivate::zeroPaddedBelowTen(remainderOf(value, smallest));
     return result;
 }
 
@@ -214,7 +215,7 @@ bool BXTimeIntervalFormatter::getObjectValue(QVariant *object, const QString &st
     // The fraction is dropped through a 32-bit int, so a value beyond its range (the default
     // clamps allow some) becomes -2147483648; stored values depend on that, so it stays.
     if (!m_showsMilliseconds)
-        value = brixel::truncatedToInt32(value);
+        value = Brixel::truncatedToInt32(value);
     if (object)
         *object = value;
     return !string.isNull();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNFormatter.h>
+#include "../platform/ZARNFormatter.h"
 #include <Brixel/brixel_export.h>
 
 #include <QString>
@@ -20,14 +20,6 @@ enum BXTimeIntervalComponent : int {
     BXTimeIntervalDaysComponent = 3,    ///< 86400 seconds per unit, 7 before weeks roll over
     BXTimeIntervalWeeksComponent = 4,   ///< 604800 seconds per unit, base 1
 };
-
-/// Seconds in one unit of \a component: 1, 60, 3600, 86400, 604800 for seconds to weeks;
-/// 1 for any other number.
-BRIXEL_EXPORT double _BXTimeIntervalComponentScalar(int component);
-
-/// Units of \a component before the next larger one rolls over: 60, 60, 24, 7, 1 for seconds
-/// to weeks; 1 for any other number.
-BRIXEL_EXPORT double _BXTimeIntervalComponentBase(int component);
 
 /**
  * Shows a number of seconds as a clock-like string such as "1:05:09" or "2:07.250" and reads

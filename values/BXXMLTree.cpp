@@ -4,7 +4,7 @@
 #include <QDomNode>
 #include <QStringList>
 
-QDomNode BXXMLTreeAtPath(const QDomNode &tree, const QString &path)
+QDomNode Brixel::BXXMLTreeAtPath(const QDomNode &tree, const QString &path)
 {
     QDomNode node = tree;
     const QStringList components = path.split(u'/', Qt::SkipEmptyParts);

@@ -15,6 +15,8 @@ QT_END_NAMESPACE
  * and link Qt6::Xml to call it.
  */
 
+namespace Brixel {
+
 /**
  * The element reached from \a tree by following \a path, one element name per component.
  *
@@ -32,3 +34,5 @@ QT_END_NAMESPACE
  * a component that names no child element gives a null node.
  */
 BRIXEL_EXPORT QDomNode BXXMLTreeAtPath(const QDomNode &tree, const QString &path);
+
+} // namespace Brixel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNIndexSet.h>
+#include "../platform/ZARNIndexSet.h"
 
 #include <QList>
 
@@ -11,6 +11,8 @@
  * \file
  * Picking list elements by index set. Works on any QList<T>.
  */
+
+namespace Brixel {
 
 /**
  * The elements of \a array at \a indexes, in ascending index order. An empty set gives an empty
@@ -34,3 +36,5 @@ QList<T> objectsAtIndexes(const QList<T> &array, const ZARNIndexSet &indexes)
     }
     return objects;
 }
+
+} // namespace Brixel

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NSAttributedString_Category.h"
 
-#include <Brixel/ZARNAttributedString.h>
+#include "../platform/ZARNAttributedString.h"
 
-QVariant attribute(const ZARNAttributedString &string, const QString &name)
+QVariant Brixel::attribute(const ZARNAttributedString &string, const QString &name)
 {
     return string.isEmpty() ? QVariant() : string.attribute(name, 0);
 }

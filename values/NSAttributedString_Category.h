@@ -8,6 +8,8 @@
 
 class ZARNAttributedString;
 
+namespace Brixel {
+
 /**
  * The value of the attribute \a name at the first character of \a string: the attribute of the
  * text as a whole, for text styled uniformly. An invalid QVariant when \a string is empty or
@@ -18,3 +20,5 @@ class ZARNAttributedString;
  * \endcode
  */
 BRIXEL_EXPORT QVariant attribute(const ZARNAttributedString &string, const QString &name);
+
+} // namespace Brixel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NSIndexSet_Category.h"
 
-#include "BrixelNumbers_p.h"
+#include "NumberText_p.h"
 
 namespace {
 
@@ -10,7 +10,7 @@ qint32 intValue(const QVariant &number)
     switch (number.typeId()) {
     case QMetaType::Double:
     case QMetaType::Float:
-        return brixel::truncatedToInt32(number.toDouble());
+        return Brixel::truncatedToInt32(number.toDouble());
     default:
         // Keeps the low 32 bits, as a narrowing integer conversion does.
         return qint32(number.toLongLong());
@@ -19,7 +19,7 @@ qint32 intValue(const QVariant &number)
 
 } // namespace
 
-ZARNIndexSet indexSetFromRowNumbers(const QVariantList &rowNumbers)
+ZARNIndexSet Brixel::indexSetFromRowNumbers(const QVariantList &rowNumbers)
 {
     ZARNIndexSet indexes;
     for (const QVariant &number : rowNumbers)

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <Brixel/ZARNIndexSet.h>
+#include "../platform/ZARNIndexSet.h"
 #include <Brixel/brixel_export.h>
 
 #include <QVariantList>
+
+namespace Brixel {
 
 /**
  * The index set of the 32-bit integer values of \a rowNumbers, for row numbers kept as
@@ -20,3 +22,5 @@
  * \endcode
  */
 BRIXEL_EXPORT ZARNIndexSet indexSetFromRowNumbers(const QVariantList &rowNumbers);
+
+} // namespace Brixel

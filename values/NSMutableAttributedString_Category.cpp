@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "NSMutableAttributedString_Category.h"
 
-#include <Brixel/ZARNAttributedString.h>
+#include "../platform/ZARNAttributedString.h"
 
-void replaceAttribute(ZARNAttributedString &string, const QString &name, const QVariant &value)
+void Brixel::replaceAttribute(ZARNAttributedString &string, const QString &name, const QVariant &value)
 {
     qsizetype index = 0;
     while (index < string.length()) {

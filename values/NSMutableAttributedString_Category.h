@@ -8,6 +8,8 @@
 
 class ZARNAttributedString;
 
+namespace Brixel {
+
 /**
  * Sets the attribute \a name to \a value on the characters of \a string that have attributes,
  * run by run, keeping each run's other attributes. Characters without any attribute are left
@@ -21,3 +23,5 @@ class ZARNAttributedString;
  * has attributes (ZARNAttributedString holds no invalid values).
  */
 BRIXEL_EXPORT void replaceAttribute(ZARNAttributedString &string, const QString &name, const QVariant &value);
+
+} // namespace Brixel

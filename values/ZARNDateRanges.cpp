@@ -87,7 +87,7 @@ Range rangeForMnemonic(int mnemonic, const ZARNCalendarDate &now)
 
 } // namespace
 
-void DateRangeForMnemonic(int mnemonic, ZARNCalendarDate *outStart, ZARNCalendarDate *outEnd)
+void Brixel::DateRangeForMnemonic(int mnemonic, ZARNCalendarDate *outStart, ZARNCalendarDate *outEnd)
 {
     if (quint32(mnemonic) > quint32(DateRangeMnemonicYearToDate))
         return;
@@ -98,7 +98,7 @@ void DateRangeForMnemonic(int mnemonic, ZARNCalendarDate *outStart, ZARNCalendar
         *outEnd = range.end;
 }
 
-int DaysInMonth(int month, int year)
+int Brixel::DaysInMonth(int month, int year)
 {
     switch (month) {
     case 4:

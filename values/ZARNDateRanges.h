@@ -2,7 +2,7 @@
 #pragma once
 
 #include <Brixel/brixel_export.h>
-#include <Brixel/ZARNCalendarDate.h>
+#include "../platform/ZARNCalendarDate.h"
 
 /**
  * \file
@@ -34,6 +34,8 @@ enum DateRangeMnemonic : int {
     DateRangeMnemonicYearToDate = 13,
 };
 
+namespace Brixel {
+
 /**
  * Writes the first and the last second of the period \a mnemonic into \a outStart and
  * \a outEnd, in the default time zone, measured from ZARNClock's now.
@@ -55,3 +57,5 @@ BRIXEL_EXPORT void DateRangeForMnemonic(int mnemonic, ZARNCalendarDate *outStart
  * 2100 give 29, unlike the Gregorian calendar of ZARNCalendarDate. This is intended.
  */
 BRIXEL_EXPORT int DaysInMonth(int month, int year);
+
+} // namespace Brixel

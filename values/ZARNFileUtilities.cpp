@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNFileUtilities.h"
 
-#include <Brixel/ZARNSystemFacts.h>
+#include "ZARNSystemFacts.h"
 
 #include <QCollator>
 #include <QDir>
@@ -113,7 +113,7 @@ std::atomic<int> tempFileCounter{1};
 
 } // namespace
 
-QString ZARNUniqueFilePathAtPath(const QString &path, bool keepExtension)
+QString Brixel::ZARNUniqueFilePathAtPath(const QString &path, bool keepExtension)
 {
     const std::optional<PathParts> parts = splitLastComponent(path);
     if (!parts)
@@ -138,26 +138,26 @@ QString ZARNUniqueFilePathAtPath(const QString &path, bool keepExtension)
     }
 }
 
-QString ZARNTempFolderName()
+QString Brixel::ZARNTempFolderName()
 {
-    return QStringLiteral(".Corvel-Temp-%1-%2").arg(ZARNMACAddressString(), ZARNProcessIDString());
+    return QStringLiteral(".Corvel-Temp-%1-%2").arg(Brixel::ZARNMACAddressString(), Brixel::ZARNProcessIDString());
 }
 
-QString ZARNTempFileName()
+QString Brixel::ZARNTempFileName()
 {
     const int number = tempFileCounter.fetch_add(1);
     return QStringLiteral(".Corvel-Temp-%1-%2-%3")
-        .arg(ZARNMACAddressString(), ZARNProcessIDString(), QString::number(number));
+        .arg(Brixel::ZARNMACAddressString(), Brixel::ZARNProcessIDString(), QString::number(number));
 }
 
-int ZARNCompareDirectoryContents(const QString &a, const QString &b)
+int Brixel::ZARNCompareDirectoryContents(const QString &a, const QString &b)
 {
     if (a.isNull() || b.isNull())
         return 0;
     return compareNumeric(a.toCaseFolded(), b.toCaseFolded());
 }
 
-int ZARNCompareLastPathComponent(const QString &a, const QString &b)
+int Brixel::ZARNCompareLastPathComponent(const QString &a, const QString &b)
 {
     if (a.isNull() || b.isNull())
         return 0;

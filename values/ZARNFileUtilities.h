@@ -18,6 +18,8 @@
  * \endcode
  */
 
+namespace Brixel {
+
 /**
  * A path at which no file exists yet, beside the one at \a path.
  *
@@ -66,3 +68,5 @@ BRIXEL_EXPORT int ZARNCompareDirectoryContents(const QString &a, const QString &
  * there are the same. A null \a a or \a b gives 0.
  */
 BRIXEL_EXPORT int ZARNCompareLastPathComponent(const QString &a, const QString &b);
+
+} // namespace Brixel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNSColorAdditions.h"
 
-#include "BrixelNumbers_p.h"
+#include "NumberText_p.h"
 
 #include <QStringList>
 
@@ -13,7 +13,7 @@ namespace {
 // The number at the start of text after blanks, as a colour component in [0, 1].
 float leadingComponent(QStringView text)
 {
-    return float(std::clamp(brixel::leadingNumber(text), 0.0, 1.0));
+    return float(std::clamp(BrixelPrivate::leadingNumber(text), 0.0, 1.0));
 }
 
 quint16 storedComponent(float component)
@@ -36,7 +36,7 @@ float shortestComponent(quint16 stored)
 
 } // namespace
 
-QColor colorFromCalibratedRGBString(const QString &string)
+QColor Brixel::colorFromCalibratedRGBString(const QString &string)
 {
     const QList<QStringView> parts = QStringView(string).split(u',');
     if (parts.size() <= 3)
@@ -45,7 +45,7 @@ QColor colorFromCalibratedRGBString(const QString &string)
                             leadingComponent(parts.at(2)), leadingComponent(parts.at(3)));
 }
 
-QString asCalibratedRGBString(const QColor &color)
+QString Brixel::asCalibratedRGBString(const QColor &color)
 {
     const QRgba64 stored = color.toRgb().rgba64();
     return QString::asprintf("%.5f,%.5f,%.5f,%.5f", double(shortestComponent(stored.red())),

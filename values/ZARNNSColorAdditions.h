@@ -12,6 +12,8 @@
  * from 0 to 1 with five decimals, for example "1.00000,0.00000,0.00000,0.50000".
  */
 
+namespace Brixel {
+
 /**
  * The colour that \a string describes. With four or more comma-separated parts, red, green,
  * blue and alpha are the leading numbers of the first four parts, read as single-precision
@@ -41,3 +43,5 @@ BRIXEL_EXPORT QColor colorFromCalibratedRGBString(const QString &string);
  * "0.50000", not as the stored 0.50001).
  */
 BRIXEL_EXPORT QString asCalibratedRGBString(const QColor &color);
+
+} // namespace Brixel

@@ -146,31 +146,31 @@ bool isShortAlphanumericExtension(QStringView extension)
 
 } // namespace
 
-QStringList CSVLineComponents(const QString &line)
+QStringList Brixel::CSVLineComponents(const QString &line)
 {
     return CSVLineReader(line).read();
 }
 
-QString fileExtension(const QString &path)
+QString Brixel::fileExtension(const QString &path)
 {
     const QStringView extension = splitPathExtension(path).extension;
     return isShortAlphanumericExtension(extension) ? extension.toString() : QString();
 }
 
-QString stringByDeletingFileExtension(const QString &path)
+QString Brixel::stringByDeletingFileExtension(const QString &path)
 {
     const PathParts parts = splitPathExtension(path);
     return isShortAlphanumericExtension(parts.extension) ? parts.withoutExtension.toString() : path;
 }
 
-QString withoutCharactersInSet(const QString &string, const std::function<bool(QChar)> &isInSet)
+QString Brixel::withoutCharactersInSet(const QString &string, const std::function<bool(QChar)> &isInSet)
 {
     QString result = string;
     result.removeIf(isInSet);
     return result;
 }
 
-QString withoutCharactersInSet(const QString &string, QStringView characters)
+QString Brixel::withoutCharactersInSet(const QString &string, QStringView characters)
 {
-    return withoutCharactersInSet(string, [characters](QChar c) { return characters.contains(c); });
+    return Brixel::withoutCharactersInSet(string, [characters](QChar c) { return characters.contains(c); });
 }

@@ -14,6 +14,8 @@
  * All lengths and characters are UTF-16 units, as in QString.
  */
 
+namespace Brixel {
+
 /**
  * Splits one comma-separated line into its fields.
  *
@@ -68,3 +70,5 @@ BRIXEL_EXPORT QString withoutCharactersInSet(const QString &string, const std::f
 
 /// \overload The set is the characters of \a characters.
 BRIXEL_EXPORT QString withoutCharactersInSet(const QString &string, QStringView characters);
+
+} // namespace Brixel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNSystemFacts.h"
 
-#include <Brixel/ZARNNetworkInterfaces.h>
+#include "../platform/ZARNNetworkInterfaces.h"
 
 #include <QCoreApplication>
 #include <QUuid>
@@ -55,12 +55,12 @@ void printDiagnostic(const char *call, quint32 code)
 
 } // namespace
 
-QString ZARNUniqueString()
+QString Brixel::ZARNUniqueString()
 {
     return QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
 }
 
-QString ZARNMACAddressString()
+QString Brixel::ZARNMACAddressString()
 {
     const ZARNNetworkInterfaces &backEnd = ZARNNetworkInterfaces::current();
     const ZARNNetworkInterfaces::Listing listing = backEnd.interfaces();
@@ -78,7 +78,7 @@ QString ZARNMACAddressString()
     return backEnd.hostName();
 }
 
-QString ZARNProcessIDString()
+QString Brixel::ZARNProcessIDString()
 {
     return QString::number(QCoreApplication::applicationPid());
 }

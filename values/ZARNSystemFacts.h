@@ -17,6 +17,8 @@
  * \endcode
  */
 
+namespace Brixel {
+
 /// A newly generated UUID as upper-case text without braces, such as
 /// "6BA7B810-9DAD-11D1-80B4-00C04FD430C8". Every call gives a different one.
 BRIXEL_EXPORT QString ZARNUniqueString();
@@ -44,3 +46,5 @@ BRIXEL_EXPORT QString ZARNMACAddressString();
 /// QCoreApplication. (A process always has one on the systems Qt runs on, so the "0" that
 /// stands for an unknown identifier does not occur.)
 BRIXEL_EXPORT QString ZARNProcessIDString();
+
+} // namespace Brixel

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTimeAndSizeStrings.h"
 
-#include "BrixelNumbers_p.h"
+#include "NumberText_p.h"
 
-#include <Brixel/ZARNLocalizedString.h>
-#include <Brixel/ZARNUserDefaults.h>
+#include "../platform/ZARNLocalizedString.h"
+#include "../platform/ZARNUserDefaults.h"
 
 #include <cmath>
 
@@ -31,25 +31,25 @@ void appendCount(QString &text, bool follows, int count, const UnitWords &words)
         text += QStringLiteral(", ");
     text += QString::number(count);
     text += u' ';
-    text += ZARNLocalizedString(count == 1 ? words.singular : words.plural);
+    text += Brixel::ZARNLocalizedString(count == 1 ? words.singular : words.plural);
 }
 
 QString withUnit(double value, QStringView unit)
 {
-    QString text = brixel::fixedText(value, 1);
+    QString text = BrixelPrivate::fixedText(value, 1);
     text += unit;
     return text;
 }
 
 } // namespace
 
-QString ZARNLongStringForTimeInterval(double interval)
+QString Brixel::ZARNLongStringForTimeInterval(double interval)
 {
-    const int whole = brixel::truncatedToInt32(interval);
+    const int whole = Brixel::truncatedToInt32(interval);
     const int days = whole / 86400;
     const int hours = (whole / 3600) % 24;
     const int minutes = (whole / 60) % 60;
-    const int seconds = brixel::truncatedToInt32(std::fmod(interval, 60.0));
+    const int seconds = Brixel::truncatedToInt32(std::fmod(interval, 60.0));
 
     // Whether a piece follows another is decided from the counts, not from what was appended.
     QString text;
@@ -66,13 +66,13 @@ QString ZARNLongStringForTimeInterval(double interval)
     return text;
 }
 
-QString TimeIntervalDescription(double interval)
+QString Brixel::TimeIntervalDescription(double interval)
 {
-    const int whole = brixel::truncatedToInt32(interval);
+    const int whole = Brixel::truncatedToInt32(interval);
     const double seconds = std::fmod(interval, 60.0);
 
     // Padded by the seconds' own value, so NaN ("not below ten") stays unpadded.
-    QString secondsText = QString::number(brixel::truncatedToInt32(seconds));
+    QString secondsText = QString::number(Brixel::truncatedToInt32(seconds));
     if (seconds < 10)
         secondsText.prepend(u'0');
     // The seconds text is whole, so this finds nothing today; it keeps the user's decimal
@@ -81,11 +81,11 @@ QString TimeIntervalDescription(double interval)
     if (!decimalSeparator.isEmpty())
         secondsText.replace(u'.', decimalSeparator);
 
-    return brixel::zeroPaddedBelowTen(whole / 3600) + u':' + brixel::zeroPaddedBelowTen((whole / 60) % 60) + u':'
+    return BrixelPrivate::zeroPaddedBelowTen(whole / 3600) + u':' + BrixelPrivate::zeroPaddedBelowTen((whole / 60) % 60) + u':'
         + secondsText;
 }
 
-QString StringForFileSize(quint64 size)
+QString Brixel::StringForFileSize(quint64 size)
 {
     // Through a float first, deliberately: the figures shown for large sizes depend on it.
     const double approximate = static_cast<float>(size);
@@ -98,7 +98,7 @@ QString StringForFileSize(quint64 size)
     return QString::number(size) + QStringLiteral(" bytes");
 }
 
-int ZARNRoundToNearestIncrement(int value, int increment)
+int Brixel::ZARNRoundToNearestIncrement(int value, int increment)
 {
     if (increment == 0)
         return value;

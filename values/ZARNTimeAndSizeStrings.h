@@ -15,6 +15,8 @@
  * used as that number.
  */
 
+namespace Brixel {
+
 /**
  * A spelled-out duration: "2 days, 3 hours, 5 minutes", "1 minute, 1 second", "45 seconds".
  *
@@ -60,3 +62,5 @@ BRIXEL_EXPORT QString StringForFileSize(quint64 size);
  * as 32-bit arithmetic does (INT_MAX with increment 10 gives -2147483646).
  */
 BRIXEL_EXPORT int ZARNRoundToNearestIncrement(int value, int increment);
+
+} // namespace Brixel

@@ -76,7 +76,7 @@ void GalleryWindow::showPage(int index)
 void GalleryWindow::buildVersionChooser()
 {
     m_versionChooser = new QComboBox;
-    const quint32 current = ZARNSystemVersion();
+    const quint32 current = Brixel::ZARNSystemVersion();
     for (const VersionChoice &choice : versionChoices) {
         m_versionChooser->addItem(tr("%1 (0x%2)").arg(tr(choice.label)).arg(choice.code, 0, 16), choice.code);
         if (choice.code == current)
@@ -96,7 +96,7 @@ void GalleryWindow::buildVersionChooser()
 
 void GalleryWindow::applySystemVersion(int chooserIndex)
 {
-    ZARNSetSystemVersion(m_versionChooser->itemData(chooserIndex).toUInt());
+    Brixel::ZARNSetSystemVersion(m_versionChooser->itemData(chooserIndex).toUInt());
     // Widgets that cache version-dependent artwork listen to the notifier; a repaint shows it.
     const auto widgets = findChildren<QWidget *>();
     for (QWidget *widget : widgets)

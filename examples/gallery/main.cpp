@@ -42,7 +42,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Brixel"));
     QApplication::setApplicationName(QStringLiteral("Gallery"));
-    ZARNLoadTranslations();
+    Brixel::ZARNLoadTranslations();
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate("main", "Shows Brixel's widgets and helpers."));

@@ -9,7 +9,7 @@ int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
     const ZARNRect rect(1, 2, 3, 4);
-    QLabel label(QStringLiteral("Brixel %1").arg(ZARNSystemVersion(), 0, 16));
+    QLabel label(QStringLiteral("Brixel %1").arg(Brixel::ZARNSystemVersion(), 0, 16));
     label.show();
-    return rect.flipped(10).flipped(10) == rect && ZARNSystemVersion() >= 0x1050 ? 0 : 1;
+    return rect.flipped(10).flipped(10) == rect && Brixel::ZARNSystemVersion() >= 0x1050 ? 0 : 1;
 }

@@ -100,7 +100,7 @@ void TestAttributedStringDrawing::measures()
     QFETCH(int, lines);
 
     const QFontMetricsF metrics(bigFont());
-    const brixel::AttributedTextLayout layout(text(string), wrapWidth, wraps);
+    const ZARNAttributedTextLayout layout(text(string), wrapWidth, wraps);
     if (QTest::currentDataTag() == "NaN width wraps after every character"_L1)
         QCOMPARE_LE(layout.width(), metrics.horizontalAdvance(u"b"_s) + 0.5);
     else
@@ -110,11 +110,11 @@ void TestAttributedStringDrawing::measures()
 
 void TestAttributedStringDrawing::emptyTextIsOneLineOfItsFont()
 {
-    const brixel::AttributedTextLayout plain(QString(), bigFont(), Qt::black, Qt::AlignLeft);
+    const ZARNAttributedTextLayout plain(QString(), bigFont(), Qt::black, Qt::AlignLeft);
     QCOMPARE(plain.width(), 0.0);
     QCOMPARE(plain.height(), lineHeight());
     // An empty attributed string has no runs and so no font but the application's.
-    QCOMPARE(brixel::AttributedTextLayout(ZARNAttributedString(), 100).height(), lineHeight(QFont()));
+    QCOMPARE(ZARNAttributedTextLayout(ZARNAttributedString(), 100).height(), lineHeight(QFont()));
 }
 
 void TestAttributedStringDrawing::alignsEachParagraph_data()
@@ -144,7 +144,7 @@ void TestAttributedStringDrawing::alignsEachParagraph()
     QFETCH(QList<Qt::Alignment>, lineAlignments);
 
     const QRectF rect(30, 10, 300, 180);
-    const QImage image = render([&](QPainter &painter) { brixel::drawAttributedString(painter, string, rect); });
+    const QImage image = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, string, rect); });
     const QFontMetricsF metrics(bigFont());
     const qreal advance = metrics.horizontalAdvance(u"Wx"_s);
     for (int line = 0; line < lineAlignments.size(); ++line) {
@@ -186,8 +186,8 @@ void TestAttributedStringDrawing::shadowLiesUnderTheGlyphs()
     ZARNAttributedString unshadowed = plain;
     unshadowed.append(text(u"Shadow"_s));
 
-    const QImage without = render([&](QPainter &painter) { brixel::drawAttributedString(painter, unshadowed, rect); });
-    const QImage with = render([&](QPainter &painter) { brixel::drawAttributedString(painter, shadowed, rect); });
+    const QImage without = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, unshadowed, rect); });
+    const QImage with = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, shadowed, rect); });
 
     // Only the second word casts a shadow; its far edges show past the glyphs by the offset.
     const qreal plainWidth = QFontMetricsF(bigFont()).horizontalAdvance(u"plain "_s);
@@ -228,7 +228,7 @@ void TestAttributedStringDrawing::antialiasing()
     ZARNAttributedString string = text(u"Round glyphs "_s);
     string.append(ZARNAttributedString(u"and the default font"_s));
     const QImage image = render([&](QPainter &painter) {
-        brixel::drawAttributedString(painter, string, QRectF(5, 5, 390, 190), true, antialiased);
+        Brixel::drawAttributedString(painter, string, QRectF(5, 5, 390, 190), true, antialiased);
     });
     const QRect partial = brixeltest::pixelBounds(image, [](const QColor &color) {
         return color.red() > 30 && color.red() < 225;
@@ -257,7 +257,7 @@ void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle()
     QFETCH(int, linesDrawn);
 
     const QImage image = render([&](QPainter &painter) {
-        brixel::drawAttributedString(painter, text(u"Ww\nWw\nWw"_s), rect, false);
+        Brixel::drawAttributedString(painter, text(u"Ww\nWw\nWw"_s), rect, false);
     });
     const qreal spacing = lineHeight();
     for (int line = 0; line < 3; ++line) {
@@ -275,10 +275,10 @@ void TestAttributedStringDrawing::plainTextDrawsAsItsAttributedForm()
                                                              QVariant::fromValue(Qt::Alignment(Qt::AlignHCenter))}});
     const QRectF rect(10, 10, 380, 180);
     const QImage fromAttributed = render([&](QPainter &painter) {
-        brixel::AttributedTextLayout(attributed, 0, false).draw(painter, rect);
+        ZARNAttributedTextLayout(attributed, 0, false).draw(painter, rect);
     });
     const QImage fromPlain = render([&](QPainter &painter) {
-        brixel::AttributedTextLayout(u"Same\nPixels"_s, bigFont(), blue, Qt::AlignHCenter).draw(painter, rect);
+        ZARNAttributedTextLayout(u"Same\nPixels"_s, bigFont(), blue, Qt::AlignHCenter).draw(painter, rect);
     });
     QCOMPARE(fromPlain, fromAttributed);
 }

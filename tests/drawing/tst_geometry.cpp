@@ -29,10 +29,10 @@ void TestGeometry::results_data()
     QTest::addColumn<Result>("result");
     QTest::addColumn<ZARNRect>("expected");
 
-    const auto centre = [](ZARNRect rect, ZARNRect on) { return Result([=] { return ZARNRectCenterOnRect(rect, on); }); };
-    const auto scale = [](ZARNRect rect, ZARNRect to) { return Result([=] { return ZARNScaleRectToRect(rect, to); }); };
+    const auto centre = [](ZARNRect rect, ZARNRect on) { return Result([=] { return Brixel::ZARNRectCenterOnRect(rect, on); }); };
+    const auto scale = [](ZARNRect rect, ZARNRect to) { return Result([=] { return Brixel::ZARNScaleRectToRect(rect, to); }); };
     const auto align = [](int alignment) {
-        return Result([=] { return ZARNAlignRectOnRect({100, 100, 10, 4}, {0, 0, 25, 20}, alignment); });
+        return Result([=] { return Brixel::ZARNAlignRectOnRect({100, 100, 10, 4}, {0, 0, 25, 20}, alignment); });
     };
     const float nan = std::numeric_limits<float>::quiet_NaN();
 
@@ -42,18 +42,18 @@ void TestGeometry::results_data()
     QTest::newRow("centre: difference taken in float") << centre({0, 0, 1.5f, 1}, {0.1f, 0, 1e7f, 3})
                                                        << ZARNRect(4999999, 1, 1.5f, 1);
     QTest::newRow("centre then snap: 2.5 goes to the even pixel")
-        << Result([] { return ZARNRect(ZARNIntegralPoint(ZARNRectCenterOnRect({0, 0, 10, 10}, {0, 0, 15, 15}).origin), {}); })
+        << Result([] { return ZARNRect(Brixel::ZARNIntegralPoint(Brixel::ZARNRectCenterOnRect({0, 0, 10, 10}, {0, 0, 15, 15}).origin), {}); })
         << ZARNRect(2, 2, 0, 0);
     QTest::newRow("scale: enlarges, keeps origin") << scale({10, 20, 100, 50}, {0, 0, 300, 300}) << ZARNRect(10, 20, 300, 150);
     QTest::newRow("scale: shrinks by height") << scale({0, 0, 100, 200}, {50, 50, 100, 100}) << ZARNRect(0, 0, 50, 100);
     QTest::newRow("scale: zero width loses to the finite ratio") << scale({0, 0, 0, 50}, {0, 0, 100, 100}) << ZARNRect(0, 0, 0, 100);
     QTest::newRow("scale: zero size gives NaN") << scale({0, 0, 0, 0}, {0, 0, 100, 100}) << ZARNRect(0, 0, nan, nan);
-    QTest::newRow("normalized: halves to even") << Result([] { return ZARNNormalizedRect({0.5f, 1.5f, 2.5f, 3.5f}); })
+    QTest::newRow("normalized: halves to even") << Result([] { return Brixel::ZARNNormalizedRect({0.5f, 1.5f, 2.5f, 3.5f}); })
                                                 << ZARNRect(0, 2, 2, 4);
     QTest::newRow("normalized: negative half keeps its sign")
-        << Result([] { return ZARNNormalizedRect({-0.5f, -1.5f, 0.49f, 0.51f}); }) << ZARNRect(-0.0f, -2, 0, 1);
+        << Result([] { return Brixel::ZARNNormalizedRect({-0.5f, -1.5f, 0.49f, 0.51f}); }) << ZARNRect(-0.0f, -2, 0, 1);
     QTest::newRow("integral point: negative half keeps its sign")
-        << Result([] { return ZARNRect(ZARNIntegralPoint({-0.5f, 1.5f}), {}); }) << ZARNRect(-0.0f, 2, 0, 0);
+        << Result([] { return ZARNRect(Brixel::ZARNIntegralPoint({-0.5f, 1.5f}), {}); }) << ZARNRect(-0.0f, 2, 0, 0);
     // A 10 x 4 rectangle at (100, 100) aligned on (0, 0, 25, 20): the top is y = 16.
     QTest::newRow("align: top left") << align(0) << ZARNRect(0, 16, 10, 4);
     QTest::newRow("align: top right") << align(2) << ZARNRect(15, 16, 10, 4);

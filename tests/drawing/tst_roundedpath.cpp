@@ -55,7 +55,7 @@ void TestRoundedPath::elementOrder()
     QFETCH(unsigned int, style);
     QFETCH(float, radius);
     QFETCH(QString, shape);
-    const QPainterPath path = bezierPathWithRoundedRect({0, 0, 40, 20}, radius, style);
+    const QPainterPath path = Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, radius, style);
     QCOMPARE(::shape(path), shape);
     QCOMPARE(path.boundingRect(), QRectF(0, 0, 40, 20));
 }
@@ -65,7 +65,7 @@ void TestRoundedPath::arcsRunCounterClockwiseWithYUp()
     // Bottom-left arc from 180 to 270 degrees starts on the left edge (x, y + r) and ends on
     // the bottom edge (x + r, y); then a straight join runs along the bottom, and closing
     // the path draws the left edge. Listed: each move's or line's point, each curve's end.
-    const QPainterPath path = bezierPathWithRoundedRect({10, 20, 40, 30}, 5);
+    const QPainterPath path = Brixel::bezierPathWithRoundedRect({10, 20, 40, 30}, 5);
     QList<QPointF> points;
     for (int i = 0; i < path.elementCount(); ++i) {
         if (path.elementAt(i).type != QPainterPath::CurveToDataElement)
@@ -74,7 +74,7 @@ void TestRoundedPath::arcsRunCounterClockwiseWithYUp()
     const QList<QPointF> expected = {{10, 25}, {15, 20}, {45, 20}, {50, 25}, {50, 45}, {45, 50}, {15, 50}, {10, 45}, {10, 25}};
     QCOMPARE(points, expected);
     // A negative radius is used as it is, so its corners bulge outwards.
-    QVERIFY(bezierPathWithRoundedRect({0, 0, 40, 20}, -5).boundingRect().width() > 40);
+    QVERIFY(Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, -5).boundingRect().width() > 40);
 }
 
 void TestRoundedPath::filledCapsuleLeavesItsCornersEmpty()
@@ -84,7 +84,7 @@ void TestRoundedPath::filledCapsuleLeavesItsCornersEmpty()
     {
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(bezierPathWithRoundedRect({0, 0, 40, 20}, 10), Qt::blue);
+        painter.fillPath(Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, 10), Qt::blue);
     }
     QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
     QCOMPARE(image.pixelColor(39, 19).alpha(), 0);

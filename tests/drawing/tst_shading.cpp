@@ -60,10 +60,10 @@ void TestShading::interpolation()
     shading.drawShading(painter);   // sets the number of components
 
     float out[4] = {-1, -1, -1, -1};
-    ZARNShadingStandardShadingFunction(&shading, &t, out);
+    Brixel::ZARNShadingStandardShadingFunction(&shading, &t, out);
     QVERIFY2(out[0] == expected, qPrintable(QString::number(out[0], 'g', 9)));   // exactly, not fuzzily
     QCOMPARE(out[3], t);
-    ZARNShadingStandardShadingFunction(nullptr, &t, out);   // ignored, no crash
+    Brixel::ZARNShadingStandardShadingFunction(nullptr, &t, out);   // ignored, no crash
 }
 
 void TestShading::painted_data()

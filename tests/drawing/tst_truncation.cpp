@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNTextTruncation.h>
+#include <Brixel/ZARNLabelTruncation.h>
+#include "drawing/TruncationSearch_p.h"
 
 #include <BrixelTest.h>
 
@@ -26,7 +28,7 @@ QVariantMap attributes(qreal pointSize, const QColor &colour = Qt::black, bool b
     return {{ZARNFontAttributeName, font(pointSize, bold)}, {ZARNForegroundColorAttributeName, colour}};
 }
 
-using brixel::attributedStringWidth;
+using BrixelPrivate::attributedStringWidth;
 
 // The shortening rule taken literally: the dots replace the last character, then the
 // character before the dots goes, one at a time, measuring after every step.
@@ -96,7 +98,7 @@ void TestTruncation::longestFittingLength()
     QFETCH(QString, fits);
     QFETCH(qsizetype, expected);
     int calls = 0;
-    const qsizetype found = brixel::longestFittingLength(fits.size() - 1, [&](qsizetype length) {
+    const qsizetype found = BrixelPrivate::longestFittingLength(fits.size() - 1, [&](qsizetype length) {
         ++calls;
         return fits.at(length) == u'y';
     });
@@ -110,7 +112,7 @@ void TestTruncation::sameAsShorteningOneCharacterAtATime()
     for (int round = 0; round < 300; ++round) {
         const ZARNAttributedString text = randomText(random);
         const float width = float(random.bounded(5, 260)) + float(random.bounded(100)) / 100.0f;
-        QCOMPARE(TruncateAttributedString(text, width), stepByStep(text, width));
+        QCOMPARE(Brixel::TruncateAttributedString(text, width), stepByStep(text, width));
     }
 }
 
@@ -118,14 +120,14 @@ void TestTruncation::limits()
 {
     const ZARNAttributedString text(u"Fits exactly"_s, attributes(12));
     const float exact = attributedStringWidth(text) + 4.0f;
-    QCOMPARE(TruncateAttributedString(text, exact), text);
-    QVERIFY(TruncateAttributedString(text, exact - 0.5f).string().endsWith(u"..."_s));
+    QCOMPARE(Brixel::TruncateAttributedString(text, exact), text);
+    QVERIFY(Brixel::TruncateAttributedString(text, exact - 0.5f).string().endsWith(u"..."_s));
     // Only the dots are left, even though they do not fit either.
-    QCOMPARE(TruncateAttributedString(text, 5).string(), u"..."_s);
-    QCOMPARE(TruncateStringWithAttributes(text.string(), attributes(12), -100), u"..."_s);
-    QCOMPARE(TruncateAttributedString(ZARNAttributedString(), 4.0f), ZARNAttributedString());
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, TruncateAttributedString(ZARNAttributedString(), 3.9f));
-    QVERIFY(TruncateStringWithAttributes(QString(), {}, 100).isNull());
+    QCOMPARE(Brixel::TruncateAttributedString(text, 5).string(), u"..."_s);
+    QCOMPARE(Brixel::TruncateStringWithAttributes(text.string(), attributes(12), -100), u"..."_s);
+    QCOMPARE(Brixel::TruncateAttributedString(ZARNAttributedString(), 4.0f), ZARNAttributedString());
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::TruncateAttributedString(ZARNAttributedString(), 3.9f));
+    QVERIFY(Brixel::TruncateStringWithAttributes(QString(), {}, 100).isNull());
 }
 
 void TestTruncation::cellsAreShortenedInPlace()
@@ -133,16 +135,16 @@ void TestTruncation::cellsAreShortenedInPlace()
     QLabel label(u"Quarterly report for the whole company"_s);
     label.setFont(font(11));
     const QString original = label.text();
-    TruncateStringInCell(&label, 1000);
+    Brixel::TruncateStringInCell(&label, 1000);
     QCOMPARE(label.text(), original);
 
-    TruncateStringInCell(&label, 120);
+    Brixel::TruncateStringInCell(&label, 120);
     QVERIFY(label.text().endsWith(u"..."_s));
     QVERIFY(original.startsWith(label.text().chopped(3)));
     QVERIFY(QFontMetricsF(label.font()).horizontalAdvance(label.text()) <= 116.01);
-    TruncateStringInCell(static_cast<QLabel *>(nullptr), 10);   // does nothing
+    Brixel::TruncateStringInCell(static_cast<QLabel *>(nullptr), 10);   // does nothing
 
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, TruncateStringInCell(&label, 4.5f));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::TruncateStringInCell(&label, 4.5f));
     QCOMPARE(label.text(), u"..."_s);   // too narrow even for the dots: shows them and throws
 
     // A model item is measured in its own font.
@@ -150,8 +152,8 @@ void TestTruncation::cellsAreShortenedInPlace()
     small.setFont(font(8));
     QStandardItem large(small.text());
     large.setFont(font(16));
-    TruncateStringInCell(&small, 80);
-    TruncateStringInCell(&large, 80);
+    Brixel::TruncateStringInCell(&small, 80);
+    Brixel::TruncateStringInCell(&large, 80);
     QVERIFY(small.text().size() > large.text().size());
     QVERIFY(large.text().endsWith(u"..."_s));
 }
@@ -160,19 +162,19 @@ void TestTruncation::heightForWidth()
 {
     const QFontMetricsF metrics(font(12));
     const ZARNAttributedString line(u"One line"_s, attributes(12));
-    const float lineHeight = ZARNAttributedStringHeightForWidth(line, 500);
+    const float lineHeight = Brixel::ZARNAttributedStringHeightForWidth(line, 500);
     QVERIFY(qAbs(lineHeight - metrics.lineSpacing()) < 1);   // whole pixels per line
-    QCOMPARE(ZARNAttributedStringHeightForWidth(ZARNAttributedString(), 500), 0.0f);
+    QCOMPARE(Brixel::ZARNAttributedStringHeightForWidth(ZARNAttributedString(), 500), 0.0f);
 
     const ZARNAttributedString paragraph(u"Several words that wrap onto more than one line"_s, attributes(12));
-    const float narrow = ZARNAttributedStringHeightForWidth(paragraph, 80);
+    const float narrow = Brixel::ZARNAttributedStringHeightForWidth(paragraph, 80);
     QVERIFY(narrow >= 3 * lineHeight);
     QCOMPARE(std::fmod(narrow, lineHeight), 0.0f);
-    QCOMPARE(ZARNAttributedStringHeightForWidth(line, 500), lineHeight);   // nothing kept between calls
+    QCOMPARE(Brixel::ZARNAttributedStringHeightForWidth(line, 500), lineHeight);   // nothing kept between calls
 
     // NaN wraps after every character; the height stops at the last line within 10000.
     const ZARNAttributedString tall(QString(2000, u'W'), attributes(12));
-    const float capped = ZARNAttributedStringHeightForWidth(tall, std::nanf(""));
+    const float capped = Brixel::ZARNAttributedStringHeightForWidth(tall, std::nanf(""));
     QVERIFY(capped <= 10000.0f && capped > 10000.0f - lineHeight);
 }
 

@@ -6,6 +6,6 @@
 
 int main()
 {
-    std::printf("%x\n", ZARNSystemVersion());
+    std::printf("%x\n", Brixel::ZARNSystemVersion());
     return 0;
 }

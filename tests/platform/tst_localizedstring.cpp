@@ -12,7 +12,7 @@ class HoursTranslator : public QTranslator
 public:
     QString translate(const char *context, const char *source, const char *, int) const override
     {
-        if (qstrcmp(context, ZARNLocalizedStringContext) == 0 && qstrcmp(source, "hours") == 0)
+        if (qstrcmp(context, Brixel::ZARNLocalizedStringContext) == 0 && qstrcmp(source, "hours") == 0)
             return QStringLiteral("Stunden");
         return {};
     }
@@ -29,17 +29,17 @@ private Q_SLOTS:
 
 void TestLocalizedString::lookUp()
 {
-    QCOMPARE(ZARNLocalizedString(""), QString());
-    QCOMPARE(ZARNLocalizedString(nullptr), QString());
-    QVERIFY(!ZARNLoadTranslations(QLocale(QLocale::Zulu)));   // an unknown language loads nothing
-    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("hours"));   // a missing entry gives its key
+    QCOMPARE(Brixel::ZARNLocalizedString(""), QString());
+    QCOMPARE(Brixel::ZARNLocalizedString(nullptr), QString());
+    QVERIFY(!Brixel::ZARNLoadTranslations(QLocale(QLocale::Zulu)));   // an unknown language loads nothing
+    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));   // a missing entry gives its key
 
     HoursTranslator translator;
     QCoreApplication::installTranslator(&translator);
-    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
-    QCOMPARE(ZARNLocalizedString("days"), QStringLiteral("days"));
+    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
+    QCOMPARE(Brixel::ZARNLocalizedString("days"), QStringLiteral("days"));
     QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(ZARNLocalizedString("hours"), QStringLiteral("hours"));
+    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));
 }
 
 QTEST_GUILESS_MAIN(TestLocalizedString)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNetworkInterfaces.h>
+#include "platform/RouteTable_p.h"
 
 #include <QTest>
 
@@ -39,7 +40,7 @@ void TestNetworkInterfaces::defaultRoute()
 {
     QFETCH(QByteArray, table);
     QFETCH(QString, interface);
-    QCOMPARE(brixel::defaultRouteInterfaceName(table), interface);
+    QCOMPARE(BrixelPrivate::defaultRouteInterfaceName(table), interface);
 }
 
 void TestNetworkInterfaces::machineBackEnd()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNSystemVersion.h>
+#include "platform/SystemVersionCode_p.h"
 
 #include <QProcess>
 #include <QSignalSpy>
@@ -35,7 +36,7 @@ void TestSystemVersion::parse()
 {
     QFETCH(QString, text);
     QFETCH(quint32, code);
-    QCOMPARE(brixel::parseSystemVersionCode(text), code);
+    QCOMPARE(BrixelPrivate::parseSystemVersionCode(text), code);
 }
 
 void TestSystemVersion::startupCode_data()
@@ -68,10 +69,10 @@ void TestSystemVersion::startupCode()
 void TestSystemVersion::setterNotifiesOnlyChanges()
 {
     QSignalSpy spy(ZARNSystemVersionNotifier::instance(), &ZARNSystemVersionNotifier::systemVersionChanged);
-    ZARNSetSystemVersion(0x1039);
-    ZARNSetSystemVersion(0x1039);
-    QCOMPARE(ZARNSystemVersion(), 0x1039u);
-    ZARNSetSystemVersion(ZARNSystemVersionNewest);
+    Brixel::ZARNSetSystemVersion(0x1039);
+    Brixel::ZARNSetSystemVersion(0x1039);
+    QCOMPARE(Brixel::ZARNSystemVersion(), 0x1039u);
+    Brixel::ZARNSetSystemVersion(ZARNSystemVersionNewest);
     QCOMPARE(spy.count(), 2);
     QCOMPARE(spy.at(0).at(0).value<quint32>(), 0x1039u);
 }

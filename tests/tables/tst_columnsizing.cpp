@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableColumnAdditions.h>
-#include <Brixel/ZARNTableColumnList.h>
+#include "tables/TableColumnList_p.h"
 
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
@@ -87,11 +87,11 @@ void TestColumnSizing::table()
     view.setItemDelegate(&cell);
     if (hiddenRow >= 0)
         view.setRowHidden(hiddenRow, true);
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     ZARNTableColumn *tableColumn = list.columnForModelColumn(column);
     tableColumn->setMinWidth(minWidth);
 
-    QCOMPARE(dataWidth(tableColumn), expected);
+    QCOMPARE(Brixel::dataWidth(tableColumn), expected);
 }
 
 void TestColumnSizing::outline_data()
@@ -129,9 +129,9 @@ void TestColumnSizing::outline()
     view.setItemDelegate(&cell);
     if (expanded)
         view.expandAll();
-    brixel::TableColumnList list(&view, view.header());
+    BrixelPrivate::TableColumnList list(&view, view.header());
 
-    QCOMPARE(dataWidth(list.columnForModelColumn(column)), expected);
+    QCOMPARE(Brixel::dataWidth(list.columnForModelColumn(column)), expected);
 }
 
 void TestColumnSizing::withoutModelOrView()
@@ -140,17 +140,17 @@ void TestColumnSizing::withoutModelOrView()
     appendRows(model, {{300, 0}});
     auto view = std::make_unique<QTableView>();
     view->setModel(&model);
-    brixel::TableColumnList list(view.get(), view->horizontalHeader());
+    BrixelPrivate::TableColumnList list(view.get(), view->horizontalHeader());
     ZARNTableColumn *column = list.columnAt(0);
     column->setMinWidth(33);
 
     view->setModel(nullptr);
-    QCOMPARE(dataWidth(column), 33.0f);
+    QCOMPARE(Brixel::dataWidth(column), 33.0f);
     view.reset();
     QCOMPARE(column->tableView(), nullptr);
-    QCOMPARE(dataWidth(column), 33.0f);
-    QCOMPARE(dataWidth(nullptr), 0.0f);
-    sizeToFitData(nullptr);
+    QCOMPARE(Brixel::dataWidth(column), 33.0f);
+    QCOMPARE(Brixel::dataWidth(nullptr), 0.0f);
+    Brixel::sizeToFitData(nullptr);
 }
 
 void TestColumnSizing::fitting_data()
@@ -183,13 +183,13 @@ void TestColumnSizing::fitting()
             return FixedWidthCell::sizeHint(option, index) * 2;
         }
     } doubleCell;
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     ZARNTableColumn *column = list.columnAt(0);
     column->setMaxWidth(maxWidth);
     if (ownCell)
         column->setDataCell(&doubleCell);
 
-    sizeToFitData(column);
+    Brixel::sizeToFitData(column);
     QCOMPARE(view.horizontalHeader()->sectionSize(0), expected);
 }
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/ZARNEditingMoves.h>
+#include "tables/EditingMoves_p.h"
 
 #include <QTest>
 
 #include <climits>
 
-using brixel::Cell;
-using brixel::TextMovement;
+using BrixelPrivate::Cell;
+using BrixelPrivate::TextMovement;
 
-Q_DECLARE_METATYPE(brixel::TextMovement)
+Q_DECLARE_METATYPE(BrixelPrivate::TextMovement)
 
 namespace {
 
@@ -62,7 +62,7 @@ void TestEditingMoves::visitingOrder()
         seen.append(describe(cell));
         return false;
     };
-    QVERIFY(!brixel::nextEditableCell(movement, from, 3, 2, isEditable));
+    QVERIFY(!BrixelPrivate::nextEditableCell(movement, from, 3, 2, isEditable));
     for (Cell cell : visited)
         expected.append(describe(cell));
     QCOMPARE(seen, expected);
@@ -105,7 +105,7 @@ void TestEditingMoves::target()
     QFETCH(QString, expected);
 
     const auto isEditable = [&editable](Cell cell) { return editable.contains(cell); };
-    QCOMPARE(describe(brixel::nextEditableCell(movement, from, rows, 3, isEditable)), expected);
+    QCOMPARE(describe(BrixelPrivate::nextEditableCell(movement, from, rows, 3, isEditable)), expected);
 }
 
 QTEST_APPLESS_MAIN(TestEditingMoves)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableHeaderView.h>
-#include <Brixel/ZARNTableColumnList.h>
+#include "tables/TableColumnList_p.h"
 
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -124,7 +124,7 @@ void TestHeaderView::ownColumnsOrTheViewsList()
     QCOMPARE(header->columnToFitAt(59)->modelColumn(), 0);
     QCOMPARE(header->columnToFitAt(30), nullptr);
 
-    brixel::TableColumnList columns(&view, header);
+    BrixelPrivate::TableColumnList columns(&view, header);
     header->setColumnList(&columns);
     QCOMPARE(header->columnToFitAt(59), columns.columnAt(0));
     QVERIFY(header->resizeColumnsOnDoubleClick());

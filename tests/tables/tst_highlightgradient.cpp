@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/ZARNHighlightGradient.h>
+#include "tables/HighlightGradientCache_p.h"
 
 #include <BrixelTest.h>
 
@@ -9,7 +9,7 @@
 #include <cmath>
 #include <limits>
 
-using brixel::HighlightGradientCache;
+using BrixelPrivate::HighlightGradientCache;
 
 namespace {
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNImageAndTextCell.h>
+#include "tables/ImageAndTextLayout_p.h"
 
 #include <BrixelTest.h>
 
@@ -117,7 +118,7 @@ void TestImageAndTextCell::divideRectFromLeft()
     QFETCH(float, amount);
     QFETCH(ZARNRect, slice);
     QFETCH(ZARNRect, remainder);
-    const brixel::RectDivision parts = brixel::divideRectFromLeft({10, 5, 50, 20}, amount);
+    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft({10, 5, 50, 20}, amount);
     QCOMPARE(parts.slice, slice);
     QCOMPARE(parts.remainder, remainder);
 }
@@ -149,7 +150,7 @@ void TestImageAndTextCell::imageDestination()
     QFETCH(ZARNRect, area);
     QFETCH(int, scaling);
     QFETCH(ZARNRect, expected);
-    QCOMPARE(brixel::imageDestination(imageSize, area, scaling), expected);
+    QCOMPARE(BrixelPrivate::imageDestination(imageSize, area, scaling), expected);
 }
 
 void TestImageAndTextCell::drawsTheImageArea_data()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/ZARNItemViewBehaviour.h>
+#include "tables/ItemViewBehaviour_p.h"
 
 #include <QStandardItemModel>
 #include <QTest>
@@ -54,11 +54,11 @@ void TestItemViewBehaviour::selectedRowItem()
     view.setModel(&model);
     setUp(*view.selectionModel(), model);
 
-    const QModelIndex item = brixel::selectedRowItem(&view);
+    const QModelIndex item = BrixelPrivate::selectedRowItem(&view);
 
     QCOMPARE(item.isValid() ? item.row() : -1, row);
     QCOMPARE(item.isValid() ? item.column() : 0, 0);
-    QVERIFY(!brixel::selectedRowItem(nullptr).isValid());
+    QVERIFY(!BrixelPrivate::selectedRowItem(nullptr).isValid());
 }
 
 QTEST_MAIN(TestItemViewBehaviour)

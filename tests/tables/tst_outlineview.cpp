@@ -715,9 +715,9 @@ void TestOutlineView::resizeIsLiveUntilQuiet()
 void TestOutlineView::zapHidesTheMarkers()
 {
     QTreeView plain;
-    zapIndentationMarker(&plain);
+    Brixel::zapIndentationMarker(&plain);
     QVERIFY(!plain.rootIsDecorated());
-    zapIndentationMarker(nullptr);
+    Brixel::zapIndentationMarker(nullptr);
 
     Fixture f;
     f.view.expand(f.item(u"a"_s));
@@ -738,7 +738,7 @@ void TestOutlineView::zapHidesTheMarkers()
     QVERIFY(inkIn(markerArea(u"a"_s)));
     QVERIFY(inkIn(markerArea(u"a1"_s)));
 
-    zapIndentationMarker(&f.view);
+    Brixel::zapIndentationMarker(&f.view);
 
     QVERIFY(!f.view.rootIsDecorated());
     QVERIFY(!f.view.drawsBranchIndicators());

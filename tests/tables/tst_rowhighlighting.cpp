@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/NSBezierPath_Category.h>
-#include <Brixel/ZARNRowHighlighting.h>
+#include "tables/RowHighlighting_p.h"
 
 #include <BrixelTest.h>
 
@@ -11,9 +11,9 @@
 #include <functional>
 #include <limits>
 
-using namespace brixel;
+using namespace BrixelPrivate;
 
-Q_DECLARE_METATYPE(brixel::DropPosition)
+Q_DECLARE_METATYPE(BrixelPrivate::DropPosition)
 Q_DECLARE_METATYPE(std::optional<QLineF>)
 
 namespace {
@@ -111,7 +111,7 @@ private Q_SLOTS:
 
 void TestRowHighlighting::init()
 {
-    setBezierPathDefaultLineWidth(1.0f);
+    Brixel::setBezierPathDefaultLineWidth(1.0f);
 }
 
 void TestRowHighlighting::shapeRect_data()
@@ -159,7 +159,7 @@ void TestRowHighlighting::shapePath()
     QCOMPARE(highlightCornerRadius(float(shape.height()), style), radius);
     QPainterPath expected;
     if (radius > 0)
-        expected = bezierPathWithRoundedRect(ZARNRect::fromQRectF(shape), radius);
+        expected = Brixel::bezierPathWithRoundedRect(ZARNRect::fromQRectF(shape), radius);
     else
         expected.addRect(shape);
     QCOMPARE(highlightPath(shape, style), expected);
@@ -423,7 +423,7 @@ void TestRowHighlighting::drops()
     });
     verifyPixels(image, pixels);
     // Drawing a row or a marker leaves the default line width at 2.
-    QCOMPARE(bezierPathDefaultLineWidth(), kind == 0 ? 1.0f : 2.0f);
+    QCOMPARE(Brixel::bezierPathDefaultLineWidth(), kind == 0 ? 1.0f : 2.0f);
 }
 
 QTEST_MAIN(TestRowHighlighting)

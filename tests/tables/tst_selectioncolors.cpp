@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableViewSelectionColorAdditions.h>
+#include "tables/SelectionColorRules_p.h"
 
 #include <BrixelTest.h>
 
@@ -122,9 +123,9 @@ void TestSelectionColors::colourRule()
     QFETCH(bool, enabled);
     QFETCH(QColor, expected);
     QFETCH(QColor, outline);
-    const QColor actual = brixel::selectionColor(systemHighlight, focused, enabled);
+    const QColor actual = BrixelPrivate::selectionColor(systemHighlight, focused, enabled);
     QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
-    const QColor actualOutline = brixel::selectionOutlineColor(actual);
+    const QColor actualOutline = BrixelPrivate::selectionOutlineColor(actual);
     QVERIFY2(brixeltest::colorsClose(actualOutline, outline, 1), qPrintable(describe(actualOutline)));
 }
 
@@ -154,18 +155,18 @@ void TestSelectionColors::views()
     QVERIFY(scene.bringAbout(focus));
     scene.view.setEnabled(enabled);
 
-    const QColor actual = selectionColor(&scene.view);
+    const QColor actual = Brixel::selectionColor(&scene.view);
     QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
-    const QColor outline = selectionOutlineColor(&scene.view);
-    QVERIFY2(brixeltest::colorsClose(outline, brixel::selectionOutlineColor(expected), 1), qPrintable(describe(outline)));
-    QCOMPARE(selectionShouldDrawGradient(&scene.view), gradient);
+    const QColor outline = Brixel::selectionOutlineColor(&scene.view);
+    QVERIFY2(brixeltest::colorsClose(outline, BrixelPrivate::selectionOutlineColor(expected), 1), qPrintable(describe(outline)));
+    QCOMPARE(Brixel::selectionShouldDrawGradient(&scene.view), gradient);
 }
 
 void TestSelectionColors::nullView()
 {
-    QVERIFY(brixeltest::colorsClose(selectionColor(nullptr), grey70, 1));
-    QVERIFY(brixeltest::colorsClose(selectionOutlineColor(nullptr), rgb(0.56f, 0.56f, 0.56f), 1));
-    QVERIFY(!selectionShouldDrawGradient(nullptr));
+    QVERIFY(brixeltest::colorsClose(Brixel::selectionColor(nullptr), grey70, 1));
+    QVERIFY(brixeltest::colorsClose(Brixel::selectionOutlineColor(nullptr), rgb(0.56f, 0.56f, 0.56f), 1));
+    QVERIFY(!Brixel::selectionShouldDrawGradient(nullptr));
 }
 
 QTEST_MAIN(TestSelectionColors)

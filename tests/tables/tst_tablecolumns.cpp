@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/ZARNTableColumnList.h>
+#include "tables/TableColumnList_p.h"
 
 #include "BrixelTest.h"
 
@@ -65,7 +65,7 @@ QStringList renderedTitles(const QHeaderView &header)
 
 // Every column object answers for its own model column, and the hidden list holds exactly
 // live, hidden columns.
-void verifyConsistent(const brixel::TableColumnList &list, const QHeaderView &header)
+void verifyConsistent(const BrixelPrivate::TableColumnList &list, const QHeaderView &header)
 {
     QCOMPARE(list.columnForModelColumn(header.count()), nullptr);
     for (int logical = 0; logical < header.count(); ++logical) {
@@ -83,7 +83,7 @@ void verifyConsistent(const brixel::TableColumnList &list, const QHeaderView &he
         QCOMPARE(list.columnIndex(shown.at(index)), index);
 }
 
-void run(brixel::TableColumnList &list, const QStringList &script)
+void run(BrixelPrivate::TableColumnList &list, const QStringList &script)
 {
     for (const QString &step : script) {
         const QString argument = step.section(u' ', 1);
@@ -133,7 +133,7 @@ struct TwoColumnTable
     TwoColumnTable() { view.setModel(model.get()); }
     std::unique_ptr<QStandardItemModel> model = makeModel({u"A"_s, u"B"_s});
     QTableView view;
-    brixel::TableColumnList list{&view, view.horizontalHeader()};
+    BrixelPrivate::TableColumnList list{&view, view.horizontalHeader()};
 };
 
 } // namespace
@@ -210,7 +210,7 @@ void TestTableColumns::hideAndShow()
     view->setModel(model.get());
     view->resize(600, 200);
     QHeaderView *header = headerOf(*view);
-    brixel::TableColumnList list(view.get(), header);
+    BrixelPrivate::TableColumnList list(view.get(), header);
 
     run(list, script);
     QCOMPARE(modelColumns(list.tableColumns()), shown);
@@ -231,12 +231,12 @@ void TestTableColumns::hideAndShow()
 
 void TestTableColumns::lookups_data()
 {
-    QTest::addColumn<std::function<QVariant(const brixel::TableColumnList &)>>("lookup");
+    QTest::addColumn<std::function<QVariant(const BrixelPrivate::TableColumnList &)>>("lookup");
     QTest::addColumn<QVariant>("expected");
 
     // Columns A, X, X, D (model columns 0..3) with the first X hidden; column indexes count
     // the shown columns A, X (model column 2), D.
-    using Lookup = std::function<QVariant(const brixel::TableColumnList &)>;
+    using Lookup = std::function<QVariant(const BrixelPrivate::TableColumnList &)>;
     const auto modelColumnOf = [](const ZARNTableColumn *column) { return column ? column->modelColumn() : -1; };
     QTest::newRow("column at 1") << Lookup([=](auto &l) { return modelColumnOf(l.columnAt(1)); }) << QVariant(2);
     QTest::newRow("column at -1") << Lookup([=](auto &l) { return modelColumnOf(l.columnAt(-1)); }) << QVariant(-1);
@@ -258,12 +258,12 @@ void TestTableColumns::lookups_data()
 
 void TestTableColumns::lookups()
 {
-    QFETCH(std::function<QVariant(const brixel::TableColumnList &)>, lookup);
+    QFETCH(std::function<QVariant(const BrixelPrivate::TableColumnList &)>, lookup);
     QFETCH(QVariant, expected);
     const auto model = makeModel({u"A"_s, u"X"_s, u"X"_s, u"D"_s});
     QTableView view;
     view.setModel(model.get());
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     list.hideColumn(1);
     QCOMPARE(lookup(list), expected);
 }
@@ -293,7 +293,7 @@ void TestTableColumns::sortIndicator()
     view.setModel(&model);
     view.setSortingEnabled(true);
     view.sortByColumn(sortedColumn, Qt::DescendingOrder);
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     const QString firstBefore = model.index(0, 0).data().toString();
 
     list.hideColumn(hiddenColumn);
@@ -342,7 +342,7 @@ void TestTableColumns::followsModel()
         const auto view = makeView(kind);
         view->setModel(model.get());
         QHeaderView *header = headerOf(*view);
-        brixel::TableColumnList list(view.get(), header);
+        BrixelPrivate::TableColumnList list(view.get(), header);
         list.hideColumnWithIdentifier(u"B"_s);
         list.hideColumnWithIdentifier(u"C"_s);
 
@@ -381,7 +381,7 @@ void TestTableColumns::followsMovedColumns()
     TitlesModel model({u"A"_s, u"B"_s, u"C"_s, u"D"_s});
     QTableView view;
     view.setModel(&model);
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     list.hideColumnWithIdentifier(u"B"_s);
 
     model.moveColumns({}, first, count, {}, destination);
@@ -401,7 +401,7 @@ void TestTableColumns::anotherModelMakesNewColumns()
     const auto second = makeModel({u"P"_s, u"Q"_s, u"R"_s});
     QTableView view;
     view.setModel(first.get());
-    brixel::TableColumnList list(&view, view.horizontalHeader());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     list.hideColumn(0);
 
     view.setModel(second.get());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableViewSelectionColorAdditions.h>
-#include <Brixel/ZARNRowHighlighting.h>
+#include "tables/RowHighlighting_p.h"
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTableViewDelegate.h>
 
@@ -161,14 +161,14 @@ void TestTablePainting::selectedRow()
                     point.y() < 0 ? row.bottom() + 1 + point.y() : row.top() + point.y());
 
     const QImage gradient = table.view.highlightGradientImage();
-    const QColor fill = focused ? gradient.pixelColor(0, 0) : selectionColor(&table.view);
-    const QColor colours[] = {Qt::white, over(selectionOutlineColor(&table.view), 0.5, fill), gradient.pixelColor(0, 1),
-                              gradient.pixelColor(0, gradient.height() - 1), selectionColor(&table.view), Qt::red};
+    const QColor fill = focused ? gradient.pixelColor(0, 0) : Brixel::selectionColor(&table.view);
+    const QColor colours[] = {Qt::white, over(Brixel::selectionOutlineColor(&table.view), 0.5, fill), gradient.pixelColor(0, 1),
+                              gradient.pixelColor(0, gradient.height() - 1), Brixel::selectionColor(&table.view), Qt::red};
     const QColor want = colours[int(expected)];
     const QColor got = colorAt(table.render(), at);
     QVERIFY2(colorsClose(got, want, 6), qPrintable(u"%1 at (%2, %3), want %4"_s.arg(got.name()).arg(at.x()).arg(at.y()).arg(want.name())));
     if (!focused)
-        QVERIFY(colorsClose(selectionColor(&table.view), QColor::fromRgbF(0.7f, 0.7f, 0.7f)));
+        QVERIFY(colorsClose(Brixel::selectionColor(&table.view), QColor::fromRgbF(0.7f, 0.7f, 0.7f)));
 }
 
 void TestTablePainting::selectedTextIsWhite()
@@ -203,7 +203,7 @@ void TestTablePainting::textCellInset()
     };
     const int plainLeft = textLeft();
     table.view.setHighlightStyle(style);
-    const int shift = inset ? brixel::textCellInset(table.view.rectOfRow(0).height()) : 0;
+    const int shift = inset ? BrixelPrivate::textCellInset(table.view.rectOfRow(0).height()) : 0;
     QCOMPARE(textLeft(), plainLeft + shift);
 }
 
@@ -323,8 +323,8 @@ void TestTablePainting::dropFeedback()
     table.moveDrag(QPoint(60, y));
 
     const QPoint at = probe + (probedRow < 0 ? QPoint() : table.view.rectOfRow(probedRow).topLeft());
-    const QColor outline = selectionOutlineColor(&table.view);
-    const QColor want = alpha > 0 ? over(outline, alpha) : over(selectionColor(&table.view), 0.15);
+    const QColor outline = Brixel::selectionOutlineColor(&table.view);
+    const QColor want = alpha > 0 ? over(outline, alpha) : over(Brixel::selectionColor(&table.view), 0.15);
     QVERIFY2(colorsClose(colorAt(table.render(), at), want, 3),
              qPrintable(colorAt(table.render(), at).name() + u" want "_s + want.name()));
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/NSAttributedString_Category.h>
+#include "tables/CellHighlighting_p.h"
 #include <Brixel/ZARNSystemVersion.h>
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTextFieldCell.h>
@@ -79,7 +80,7 @@ class TestTextFieldCell : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void cleanup() { ZARNSetSystemVersion(ZARNSystemVersionNewest); }
+    void cleanup() { Brixel::ZARNSetSystemVersion(ZARNSystemVersionNewest); }
     void highlightedCellText_data();
     void highlightedCellText();
     void resolvesFontColourAndAlignment_data();
@@ -152,7 +153,7 @@ void TestTextFieldCell::highlightedCellText()
     QFETCH(ZARNAttributedString, text);
     QFETCH(quint32, systemVersion);
     QFETCH(ZARNAttributedString, expected);
-    QCOMPARE(brixel::highlightedCellText(text, font(9), systemVersion), expected);
+    QCOMPARE(BrixelPrivate::highlightedCellText(text, font(9), systemVersion), expected);
 }
 
 void TestTextFieldCell::resolvesFontColourAndAlignment_data()
@@ -207,9 +208,9 @@ void TestTextFieldCell::resolvesFontColourAndAlignment()
     ZARNRange run;
     value.attributesAtIndex(0, &run);
     QCOMPARE(run, (ZARNRange{0, 4}));
-    QCOMPARE(attribute(value, ZARNFontAttributeName).value<QFont>(), expectedFont);
-    QCOMPARE(attribute(value, ZARNForegroundColorAttributeName).value<QColor>(), expectedColor);
-    QCOMPARE(attribute(value, ZARNParagraphAlignmentAttributeName).toInt(), expectedAlignment);
+    QCOMPARE(Brixel::attribute(value, ZARNFontAttributeName).value<QFont>(), expectedFont);
+    QCOMPARE(Brixel::attribute(value, ZARNForegroundColorAttributeName).value<QColor>(), expectedColor);
+    QCOMPARE(Brixel::attribute(value, ZARNParagraphAlignmentAttributeName).toInt(), expectedAlignment);
 }
 
 void TestTextFieldCell::placesText_data()
@@ -263,7 +264,7 @@ void TestTextFieldCell::selectedContentsAreRestyled()
 {
     QFETCH(quint32, systemVersion);
     QFETCH(bool, bold);
-    ZARNSetSystemVersion(systemVersion);
+    Brixel::ZARNSetSystemVersion(systemVersion);
 
     QStandardItemModel model;
     model.appendRow(item(u"Selected"_s, {{QString::number(Qt::ForegroundRole), QColor(Qt::red)}}));

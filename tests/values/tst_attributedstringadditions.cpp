@@ -32,9 +32,9 @@ private Q_SLOTS:
 
 void TestAttributedStringAdditions::firstAttribute()
 {
-    QVERIFY(!attribute(ZARNAttributedString(), u"x"_s).isValid());
-    QCOMPARE(attribute(makeString(u"abc"_s, {{{0, 1}, {{u"x"_s, 1}}}, {{1, 2}, {{u"x"_s, 2}}}}), u"x"_s), QVariant(1));
-    QVERIFY(!attribute(makeString(u"abc"_s, {{{1, 2}, {{u"x"_s, 2}}}}), u"x"_s).isValid());
+    QVERIFY(!Brixel::attribute(ZARNAttributedString(), u"x"_s).isValid());
+    QCOMPARE(Brixel::attribute(makeString(u"abc"_s, {{{0, 1}, {{u"x"_s, 1}}}, {{1, 2}, {{u"x"_s, 2}}}}), u"x"_s), QVariant(1));
+    QVERIFY(!Brixel::attribute(makeString(u"abc"_s, {{{1, 2}, {{u"x"_s, 2}}}}), u"x"_s).isValid());
 }
 
 void TestAttributedStringAdditions::replaceAttribute_data()
@@ -71,9 +71,9 @@ void TestAttributedStringAdditions::replaceAttribute()
     QFETCH(ZARNAttributedString, expected);
     QFETCH(bool, throws);
     if (throws)
-        QVERIFY_THROWS_EXCEPTION(std::invalid_argument, ::replaceAttribute(string, u"x"_s, value));
+        QVERIFY_THROWS_EXCEPTION(std::invalid_argument, Brixel::replaceAttribute(string, u"x"_s, value));
     else
-        ::replaceAttribute(string, u"x"_s, value);
+        Brixel::replaceAttribute(string, u"x"_s, value);
     QCOMPARE(string, expected);
 }
 

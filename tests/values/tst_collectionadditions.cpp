@@ -32,18 +32,18 @@ private Q_SLOTS:
 
 void TestCollectionAdditions::lookUps()
 {
-    QCOMPARE(objectsAtIndexes(letters, {3, 0}), (QStringList{u"a"_s, u"b"_s}));
-    QCOMPARE(objectsAtIndexes(letters, {}), QStringList{});
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, objectsAtIndexes(letters, {0, 4}));
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, objectsAtIndexes(letters, {-1}));
+    QCOMPARE(Brixel::objectsAtIndexes(letters, {3, 0}), (QStringList{u"a"_s, u"b"_s}));
+    QCOMPARE(Brixel::objectsAtIndexes(letters, {}), QStringList{});
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::objectsAtIndexes(letters, {0, 4}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::objectsAtIndexes(letters, {-1}));
 
-    QCOMPARE(indexesOfObjects(letters, {u"c"_s, u"b"_s}), (ZARNIndexSet{1, 2})); // first equal element
-    QCOMPARE(indexesOfObjects(letters, {u"a"_s, u"x"_s}), (ZARNIndexSet{0, ZARNNotFound}));
+    QCOMPARE(Brixel::indexesOfObjects(letters, {u"c"_s, u"b"_s}), (ZARNIndexSet{1, 2})); // first equal element
+    QCOMPARE(Brixel::indexesOfObjects(letters, {u"a"_s, u"x"_s}), (ZARNIndexSet{0, ZARNNotFound}));
 
     QStringList list = letters;
-    replaceObject(list, u"b"_s, u"x"_s);
+    Brixel::replaceObject(list, u"b"_s, u"x"_s);
     QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
-    QVERIFY_THROWS_EXCEPTION(std::out_of_range, replaceObject(list, u"absent"_s, u"y"_s));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::replaceObject(list, u"absent"_s, u"y"_s));
     QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
 }
 
@@ -63,11 +63,11 @@ void TestCollectionAdditions::insertObjects()
     QFETCH(qsizetype, index);
     QFETCH(QList<int>, expected);
     QList<int> numbers{1, 4};
-    ::insertObjects(numbers, {2, 3}, index);
+    Brixel::insertObjects(numbers, {2, 3}, index);
     QCOMPARE(numbers, expected);
 
     numbers = {1, 4};
-    ::insertObjects(numbers, numbers, 1);
+    Brixel::insertObjects(numbers, numbers, 1);
     QCOMPARE(numbers, (QList<int>{1, 1, 4, 4}));
 }
 
@@ -78,16 +78,16 @@ void TestCollectionAdditions::removeByIdentity()
     const auto otherOne = std::make_shared<QString>(u"one"_s);
     QList<std::shared_ptr<QString>> list{one, two, one, otherOne, two};
 
-    removeObjectsInArray_Optimized(list, {std::make_shared<QString>(u"two"_s)});
+    Brixel::removeObjectsInArray_Optimized(list, {std::make_shared<QString>(u"two"_s)});
     QCOMPARE(list.size(), 5); // equal but not identical: nothing goes
-    removeObjectsInArray_Optimized(list, {one});
+    Brixel::removeObjectsInArray_Optimized(list, {one});
     QCOMPARE(list, (QList<std::shared_ptr<QString>>{two, otherOne, two}));
-    removeObjectsInArray_Optimized(list, list);
+    Brixel::removeObjectsInArray_Optimized(list, list);
     QVERIFY(list.isEmpty());
 
     QObject a, b;
     QList<QObject *> objects{&a, nullptr, &b, &a};
-    removeObjectsInArray_Optimized(objects, {&a, nullptr});
+    Brixel::removeObjectsInArray_Optimized(objects, {&a, nullptr});
     QCOMPARE(objects, QList<QObject *>{&b});
 }
 
@@ -108,7 +108,7 @@ void TestCollectionAdditions::indexSetFromRowNumbers()
 {
     QFETCH(QVariantList, rowNumbers);
     QFETCH(ZARNIndexSet, expected);
-    QCOMPARE(::indexSetFromRowNumbers(rowNumbers), expected);
+    QCOMPARE(Brixel::indexSetFromRowNumbers(rowNumbers), expected);
 }
 
 QTEST_GUILESS_MAIN(TestCollectionAdditions)

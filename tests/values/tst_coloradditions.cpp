@@ -35,7 +35,7 @@ void TestColorAdditions::read()
 {
     QFETCH(QString, text);
     QFETCH(QColor, expected);
-    QCOMPARE(colorFromCalibratedRGBString(text), expected);
+    QCOMPARE(Brixel::colorFromCalibratedRGBString(text), expected);
 }
 
 void TestColorAdditions::write_data()
@@ -52,14 +52,14 @@ void TestColorAdditions::write()
 {
     QFETCH(QColor, color);
     QFETCH(QString, text);
-    QCOMPARE(asCalibratedRGBString(color), text);
+    QCOMPARE(Brixel::asCalibratedRGBString(color), text);
 }
 
 void TestColorAdditions::everyStoredColorRoundTrips()
 {
     for (int stored = 0; stored <= 0xFFFF; ++stored) {
         const QColor color = QColor::fromRgba64(stored, 0xFFFF - stored, stored, stored);
-        const QColor back = colorFromCalibratedRGBString(asCalibratedRGBString(color));
+        const QColor back = Brixel::colorFromCalibratedRGBString(Brixel::asCalibratedRGBString(color));
         if (back.rgba64() != color.rgba64())
             QFAIL(qPrintable(u"16-bit value %1 came back as %2"_s.arg(stored).arg(back.rgba64().red())));
     }

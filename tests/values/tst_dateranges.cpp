@@ -133,11 +133,11 @@ void TestDateRanges::ranges()
     setNow(now);
     const ZARNCalendarDate marker = ZARNCalendarDate::dateWithYear(2001, 2, 3, 4, 5, 6);
     ZARNCalendarDate first = marker, last = marker, startAlone = marker, endAlone = marker;
-    DateRangeForMnemonic(mnemonic, &first, &last);
+    Brixel::DateRangeForMnemonic(mnemonic, &first, &last);
     // Either output may be left out, without changing the other.
-    DateRangeForMnemonic(mnemonic, &startAlone, nullptr);
-    DateRangeForMnemonic(mnemonic, nullptr, &endAlone);
-    DateRangeForMnemonic(mnemonic, nullptr, nullptr);
+    Brixel::DateRangeForMnemonic(mnemonic, &startAlone, nullptr);
+    Brixel::DateRangeForMnemonic(mnemonic, nullptr, &endAlone);
+    Brixel::DateRangeForMnemonic(mnemonic, nullptr, nullptr);
     QCOMPARE(fields(first), start);
     QCOMPARE(fields(last), end);
     QVERIFY(startAlone == first && endAlone == last);
@@ -168,7 +168,7 @@ void TestDateRanges::daysInMonth()
     QFETCH(int, month);
     QFETCH(int, year);
     QFETCH(int, days);
-    QCOMPARE(DaysInMonth(month, year), days);
+    QCOMPARE(Brixel::DaysInMonth(month, year), days);
 }
 
 QTEST_GUILESS_MAIN(TestDateRanges)

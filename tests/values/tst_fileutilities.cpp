@@ -62,13 +62,13 @@ void TestFileUtilities::uniquePath()
         else
             QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
     }
-    QCOMPARE(ZARNUniqueFilePathAtPath(folder.path() + u'/' + path, keepExtension), folder.path() + u'/' + expected);
+    QCOMPARE(Brixel::ZARNUniqueFilePathAtPath(folder.path() + u'/' + path, keepExtension), folder.path() + u'/' + expected);
 }
 
 void TestFileUtilities::uniquePathNeedsTwoComponents()
 {
     for (const QString &path : {QString(), u""_s, u"/"_s, u"file"_s, u"file//"_s})
-        QVERIFY2(ZARNUniqueFilePathAtPath(path, true).isNull(), qPrintable(path));
+        QVERIFY2(Brixel::ZARNUniqueFilePathAtPath(path, true).isNull(), qPrintable(path));
 }
 
 void TestFileUtilities::uniquePathInUnreadableFolder()
@@ -79,8 +79,8 @@ void TestFileUtilities::uniquePathInUnreadableFolder()
     const QString file = folder.filePath(u"a.txt"_s);
     QVERIFY(QFile(file).open(QIODevice::WriteOnly));
     QVERIFY(QFile::setPermissions(folder.path(), QFile::WriteOwner | QFile::ExeOwner));
-    QVERIFY(ZARNUniqueFilePathAtPath(file, true).isNull());
-    QCOMPARE(ZARNUniqueFilePathAtPath(folder.filePath(u"b.txt"_s), true), folder.filePath(u"b.txt"_s));
+    QVERIFY(Brixel::ZARNUniqueFilePathAtPath(file, true).isNull());
+    QCOMPARE(Brixel::ZARNUniqueFilePathAtPath(folder.filePath(u"b.txt"_s), true), folder.filePath(u"b.txt"_s));
     QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
@@ -112,15 +112,15 @@ void TestFileUtilities::fileNameOrders()
     QFETCH(QString, b);
     QFETCH(int, listing);
     QFETCH(int, collated);
-    QCOMPARE(ZARNCompareDirectoryContents(a, b), listing);
-    QCOMPARE(ZARNCompareLastPathComponent(a, b), collated);
+    QCOMPARE(Brixel::ZARNCompareDirectoryContents(a, b), listing);
+    QCOMPARE(Brixel::ZARNCompareLastPathComponent(a, b), collated);
 }
 
 void TestFileUtilities::lastPathComponentOrderFollowsLocale()
 {
-    QCOMPARE(ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s), -1);
+    QCOMPARE(Brixel::ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s), -1);
     QLocale::setDefault(QLocale(QLocale::Swedish));
-    const int swedish = ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s);
+    const int swedish = Brixel::ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s);
     QLocale::setDefault(QLocale::c());
     QCOMPARE(swedish, 1);
 }
@@ -146,10 +146,10 @@ void TestFileUtilities::xmlTreeAtPath()
     // The processing instruction has the node name "item" too, and must be passed over.
     QDomDocument document;
     QVERIFY(document.setContent(u"<root><?item x?><title/><item id='1'><name id='n1'/></item><item id='2'/></root>"_s));
-    const QDomNode node = BXXMLTreeAtPath(document, path);
+    const QDomNode node = Brixel::BXXMLTreeAtPath(document, path);
     const QString id = node.isDocument() ? u"document"_s : node.toElement().attribute(u"id"_s);
     QCOMPARE(id, found);
-    QVERIFY(BXXMLTreeAtPath(QDomNode(), path).isNull());
+    QVERIFY(Brixel::BXXMLTreeAtPath(QDomNode(), path).isNull());
 }
 
 QTEST_GUILESS_MAIN(TestFileUtilities)

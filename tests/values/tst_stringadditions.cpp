@@ -44,7 +44,7 @@ void TestStringAdditions::csvLine()
 {
     QFETCH(QString, line);
     QFETCH(QStringList, fields);
-    QCOMPARE(CSVLineComponents(line), fields);
+    QCOMPARE(Brixel::CSVLineComponents(line), fields);
 }
 
 void TestStringAdditions::fileExtension_data()
@@ -70,8 +70,8 @@ void TestStringAdditions::fileExtension()
     QFETCH(QString, path);
     QFETCH(QString, extension);
     QFETCH(QString, withoutExtension);
-    QCOMPARE(::fileExtension(path), extension);
-    QCOMPARE(stringByDeletingFileExtension(path), withoutExtension);
+    QCOMPARE(Brixel::fileExtension(path), extension);
+    QCOMPARE(Brixel::stringByDeletingFileExtension(path), withoutExtension);
 }
 
 void TestStringAdditions::withoutCharacters_data()
@@ -89,8 +89,8 @@ void TestStringAdditions::withoutCharacters()
     QFETCH(QString, string);
     QFETCH(QString, set);
     QFETCH(QString, expected);
-    QCOMPARE(withoutCharactersInSet(string, set), expected);
-    QCOMPARE(withoutCharactersInSet(string, [&set](QChar c) { return set.contains(c); }), expected);
+    QCOMPARE(Brixel::withoutCharactersInSet(string, set), expected);
+    QCOMPARE(Brixel::withoutCharactersInSet(string, [&set](QChar c) { return set.contains(c); }), expected);
 }
 
 QTEST_GUILESS_MAIN(TestStringAdditions)

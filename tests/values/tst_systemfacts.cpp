@@ -70,10 +70,10 @@ private Q_SLOTS:
 void TestSystemFacts::uniqueStringAndProcessID()
 {
     static const QRegularExpression form(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s);
-    const QString first = ZARNUniqueString();
+    const QString first = Brixel::ZARNUniqueString();
     QVERIFY2(form.match(first).hasMatch(), qPrintable(first));
-    QVERIFY(ZARNUniqueString() != first);
-    QCOMPARE(ZARNProcessIDString(), QString::number(getpid()));
+    QVERIFY(Brixel::ZARNUniqueString() != first);
+    QCOMPARE(Brixel::ZARNProcessIDString(), QString::number(getpid()));
 }
 
 void TestSystemFacts::macAddress_data()
@@ -112,14 +112,14 @@ void TestSystemFacts::macAddress()
 
     ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(interfaces, route, error));
     QString address;
-    QCOMPARE(standardOutputOf([&address] { address = ZARNMACAddressString(); }), printed);
+    QCOMPARE(standardOutputOf([&address] { address = Brixel::ZARNMACAddressString(); }), printed);
     QCOMPARE(address, expected);
 }
 
 void TestSystemFacts::macAddressOfThisMachine()
 {
     static const QRegularExpression hex(u"^[0-9A-F]{6,12}$"_s);
-    const QString address = ZARNMACAddressString();
+    const QString address = Brixel::ZARNMACAddressString();
     QVERIFY2(hex.match(address).hasMatch() || address == ZARNNetworkInterfaces::system().hostName(),
              qPrintable(address));
 }
@@ -129,9 +129,9 @@ void TestSystemFacts::tempNames()
 {
     ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(u"eth0 000A959D6816"_s, QString()));
     const QString prefix = u".Corvel-Temp-0A959D6816-"_s + QString::number(getpid());
-    QCOMPARE(ZARNTempFolderName(), prefix);
-    QCOMPARE(ZARNTempFileName(), prefix + u"-1"_s);
-    QCOMPARE(ZARNTempFileName(), prefix + u"-2"_s);
+    QCOMPARE(Brixel::ZARNTempFolderName(), prefix);
+    QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-1"_s);
+    QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-2"_s);
 }
 
 QTEST_GUILESS_MAIN(TestSystemFacts)

@@ -53,8 +53,8 @@ void TestTimeAndSizeStrings::durations()
     QFETCH(double, interval);
     QFETCH(QString, longString);
     QFETCH(QString, description);
-    QCOMPARE(ZARNLongStringForTimeInterval(interval), longString);
-    QCOMPARE(TimeIntervalDescription(interval), description);
+    QCOMPARE(Brixel::ZARNLongStringForTimeInterval(interval), longString);
+    QCOMPARE(Brixel::TimeIntervalDescription(interval), description);
 }
 
 void TestTimeAndSizeStrings::fileSize_data()
@@ -75,7 +75,7 @@ void TestTimeAndSizeStrings::fileSize()
 {
     QFETCH(quint64, size);
     QFETCH(QString, expected);
-    QCOMPARE(StringForFileSize(size), expected);
+    QCOMPARE(Brixel::StringForFileSize(size), expected);
 }
 
 void TestTimeAndSizeStrings::roundToIncrement_data()
@@ -99,7 +99,7 @@ void TestTimeAndSizeStrings::roundToIncrement()
     QFETCH(int, value);
     QFETCH(int, increment);
     QFETCH(int, expected);
-    QCOMPARE(ZARNRoundToNearestIncrement(value, increment), expected);
+    QCOMPARE(Brixel::ZARNRoundToNearestIncrement(value, increment), expected);
 }
 
 void TestTimeAndSizeStrings::translatedUnits_data()
@@ -119,8 +119,8 @@ void TestTimeAndSizeStrings::translatedUnits()
     QFETCH(QLocale, locale);
     QFETCH(double, interval);
     QFETCH(QString, expected);
-    QVERIFY(ZARNLoadTranslations(locale));
-    QCOMPARE(ZARNLongStringForTimeInterval(interval), expected);
+    QVERIFY(Brixel::ZARNLoadTranslations(locale));
+    QCOMPARE(Brixel::ZARNLongStringForTimeInterval(interval), expected);
 }
 
 QTEST_GUILESS_MAIN(TestTimeAndSizeStrings)

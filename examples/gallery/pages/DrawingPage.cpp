@@ -4,6 +4,7 @@
 #include "../GalleryPages.h"
 
 #include <Brixel/NSBezierPath_Category.h>
+#include <Brixel/ZARNLabelTruncation.h>
 #include <Brixel/ZARNImageComposition.h>
 #include <Brixel/ZARNShading.h>
 #include <Brixel/ZARNTextTruncation.h>
@@ -41,9 +42,9 @@ protected:
             painter.translate(corner.x(), corner.y() + cell.height() - 18);
             painter.scale(1, -1);
             painter.translate(0, -6);
-            const QPainterPath path = bezierPathWithRoundedRect(shape, 12, style);
+            const QPainterPath path = Brixel::bezierPathWithRoundedRect(shape, 12, style);
             painter.fillPath(path, QColor(70, 130, 220));
-            painter.strokePath(path, QPen(QColor(20, 60, 140), bezierPathDefaultLineWidth()));
+            painter.strokePath(path, QPen(QColor(20, 60, 140), Brixel::bezierPathDefaultLineWidth()));
             painter.restore();
             painter.drawText(QRectF(corner.x(), corner.y() + cell.height() - 18, cell.width(), 16), Qt::AlignCenter,
                              QString::number(style));
@@ -141,7 +142,7 @@ protected:
     {
         QImage background(target, QImage::Format_ARGB32_Premultiplied);
         background.fill(QColor(200, 220, 240));
-        QPainter(this).drawImage(0, 0, ZARNStretchImageOverImage(frameArtwork(), background));
+        QPainter(this).drawImage(0, 0, Brixel::ZARNStretchImageOverImage(frameArtwork(), background));
     }
 };
 
@@ -201,11 +202,11 @@ QWidget *badgesBox()
     auto *layout = new QGridLayout(box);
     const QImage icon = iconArtwork();
     for (int alignment = 0; alignment < 9; ++alignment)
-        layout->addWidget(imageLabel(badgedImage(icon, badgeArtwork(), alignment), QString::number(alignment)),
+        layout->addWidget(imageLabel(Brixel::badgedImage(icon, badgeArtwork(), alignment), QString::number(alignment)),
                           alignment / 3, alignment % 3);
     const QColor colours[] = {QColor(200, 60, 60), QColor(60, 60, 200), QColor(0, 0, 0, 120)};
     for (int index = 0; index < 3; ++index)
-        layout->addWidget(imageLabel(ReplaceColorsInImage(icon, colours[index]), colours[index].name()), index, 4);
+        layout->addWidget(imageLabel(Brixel::ReplaceColorsInImage(icon, colours[index]), colours[index].name()), index, 4);
     return box;
 }
 
@@ -253,13 +254,13 @@ QWidget *truncationBox()
     const auto update = [=] {
         plain->setText(sample);
         try {
-            TruncateStringInCell(plain, float(width->value()));
+            Brixel::TruncateStringInCell(plain, float(width->value()));
         } catch (const std::out_of_range &) {
             // Narrower than "..." plus its margin: the label keeps showing the dots.
         }
-        attributed->text = TruncateAttributedString(attributedSample(attributed->font()), float(width->value()));
+        attributed->text = Brixel::TruncateAttributedString(attributedSample(attributed->font()), float(width->value()));
         attributed->update();
-        const float measured = ZARNAttributedStringHeightForWidth(attributedSample(attributed->font()), float(width->value()));
+        const float measured = Brixel::ZARNAttributedStringHeightForWidth(attributedSample(attributed->font()), float(width->value()));
         height->setText(QObject::tr("Wrapped to %1 points the text is %2 points high").arg(width->value()).arg(measured));
     };
     update();

@@ -113,9 +113,9 @@ QWidget *durationAndSizeBox()
     bytes->setValue(1610612736);
     auto *size = new QLabel;
     const auto update = [=] {
-        longString->setText(ZARNLongStringForTimeInterval(interval->value()));
-        description->setText(TimeIntervalDescription(interval->value()));
-        size->setText(StringForFileSize(quint64(bytes->value())));
+        longString->setText(Brixel::ZARNLongStringForTimeInterval(interval->value()));
+        description->setText(Brixel::TimeIntervalDescription(interval->value()));
+        size->setText(Brixel::StringForFileSize(quint64(bytes->value())));
     };
     update();
     QObject::connect(interval, &QDoubleSpinBox::valueChanged, box, update);
@@ -147,7 +147,7 @@ QWidget *dateRangesBox()
     for (int mnemonic = 0; mnemonic < int(std::size(names)); ++mnemonic) {
         ZARNCalendarDate start;
         ZARNCalendarDate end;
-        DateRangeForMnemonic(mnemonic, &start, &end);
+        Brixel::DateRangeForMnemonic(mnemonic, &start, &end);
         table->setVerticalHeaderItem(mnemonic, new QTableWidgetItem(QCoreApplication::translate("ValuesPage", names[mnemonic])));
         table->setItem(mnemonic, 0, new QTableWidgetItem(start.descriptionWithCalendarFormat(format)));
         table->setItem(mnemonic, 1, new QTableWidgetItem(end.descriptionWithCalendarFormat(format)));
@@ -166,7 +166,7 @@ QWidget *csvBox()
     auto *fields = new QListWidget;
     const auto split = [=] {
         fields->clear();
-        for (const QString &field : CSVLineComponents(line->text()))
+        for (const QString &field : Brixel::CSVLineComponents(line->text()))
             fields->addItem(u"\u2039%1\u203A"_qs.arg(field));
     };
     split();
