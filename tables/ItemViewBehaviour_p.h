@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "ZARNTableView.h"
 #include <Brixel/brixel_export.h>
 
 #include <QModelIndex>
@@ -77,7 +78,7 @@ class BRIXEL_AUTOTEST_EXPORT ItemViewBehaviour : public QObject
     Q_OBJECT
 public:
     /// A resize counts as live until this many milliseconds pass without another one.
-    static constexpr int LiveResizeSettleInterval = 250;
+    static constexpr int LiveResizeSettleInterval = ZARNTableView::LiveResizeSettleInterval;
 
     /// How a view takes part in startDrag().
     struct DragHooks

@@ -109,7 +109,7 @@ public:
     bool inDragPrep() const;
 
     /// Whether the view is being resized: from a resize until
-    /// BrixelPrivate::ItemViewBehaviour::LiveResizeSettleInterval ms after the last one, when the rows
+    /// ZARNTableView::LiveResizeSettleInterval ms after the last one, when the rows
     /// are laid out again. False without a QApplication.
     bool inLiveResize() const;
 
@@ -128,7 +128,7 @@ public:
     int lastHighlightGradientRowHeight() const;
 
     /**
-     * The selection gradient for the height of the first row (BrixelPrivate::HighlightGradientCache),
+     * The selection gradient for the height of the first row,
      * from the palette's active highlight colour; made again when the row height changed or
      * the application became active. Without rows: a 1-pixel-high image.
      */

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "../platform/ZARNAttributedString.h"
-#include "ItemViewBehaviour_p.h"
 #include "../platform/ZARNShadow.h"
 #include <Brixel/brixel_export.h>
 
@@ -72,7 +71,7 @@ public:
     };
 
     /// How long after the last resize inLiveResize() keeps answering true, in milliseconds.
-    static constexpr int LiveResizeSettleInterval = BrixelPrivate::ItemViewBehaviour::LiveResizeSettleInterval;
+    static constexpr int LiveResizeSettleInterval = 250;
 
     explicit ZARNTableView(QWidget *parent = nullptr);
     ~ZARNTableView() override;
@@ -166,7 +165,7 @@ public:
     bool isEditableAtColumn(int column, int row);
 
     /// The gradient that fills selected rows, for the current row height and the palette's
-    /// highlight colour; made once per row height (see BrixelPrivate::HighlightGradientCache).
+    /// highlight colour; made once per row height.
     QImage highlightGradientImage();
 
     /// Does nothing: this table has no selection by typing.
@@ -235,7 +234,7 @@ protected:
 protected Q_SLOTS:
     /**
      * Moves editing on Tab, Backtab and Return (the editor's EditNextItem, EditPreviousItem
-     * and SubmitModelCache hints) as BrixelPrivate::nextEditableCell() finds: the editor's value is
+     * and SubmitModelCache hints) as the editing-move search finds: the editor's value is
      * committed (even when the editor never emitted commitData()) and the model's cache
      * submitted, the target row becomes the only selected row, and the target cell opens for
      * editing with its text selected. For Tab the delegate's tableViewWillTabToColumn() may
