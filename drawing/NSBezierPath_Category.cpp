@@ -18,9 +18,16 @@ float clampedRadius(const ZARNRect &rect, float radius)
 
 // Appends an arc of \a radius around \a centre running counter-clockwise (y up) from
 // \a startDegrees to \a endDegrees. A path with a current point gets a straight segment to
-// the arc's start; on an empty path the arc's start becomes the first point.
+// the arc's start; on an empty path the arc's start becomes the first point. An arc of radius 0
+// is its centre alone: QPainterPath ignores arcs in an empty rectangle,
+// which would leave the corner out (and an empty path's first point at the origin).
 void appendArc(QPainterPath &path, ZARNPoint centre, float radius, double startDegrees, double endDegrees)
 {
+    if (radius == 0.0f) {
+        const QPointF corner(centre.x, centre.y);
+        path.elementCount() == 0 ? path.moveTo(corner) : path.lineTo(corner);
+        return;
+    }
     double sweep = std::fmod(endDegrees - startDegrees, 360.0);
     if (sweep <= 0.0)
         sweep += 360.0;

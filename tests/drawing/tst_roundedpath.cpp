@@ -7,16 +7,17 @@
 
 namespace {
 
-// The path's element kinds, one letter each (M move, L line, C curve start), curve data
-// elements left out, so the order of moves, joins and arcs reads as a word.
-QString shape(const QPainterPath &path)
+// Which corners of \a rect the filled path covers, as bits: 1 bottom-left, 2 bottom-right,
+// 4 top-right, 8 top-left (y up, as the path is made).
+unsigned int coveredCorners(const QPainterPath &path, const QRectF &rect)
 {
-    QString word;
-    for (int i = 0; i < path.elementCount(); ++i) {
-        if (path.elementAt(i).type != QPainterPath::CurveToDataElement)
-            word += QLatin1Char("MLC"[path.elementAt(i).type]);
-    }
-    return word;
+    const qreal in = 0.25;
+    const QPointF corners[] = {{rect.left() + in, rect.top() + in}, {rect.right() - in, rect.top() + in},
+                               {rect.right() - in, rect.bottom() - in}, {rect.left() + in, rect.bottom() - in}};
+    unsigned int covered = 0;
+    for (int i = 0; i < 4; ++i)
+        covered |= path.contains(corners[i]) ? 1u << i : 0u;
+    return covered;
 }
 
 } // namespace
@@ -25,39 +26,40 @@ class TestRoundedPath : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void elementOrder_data();
-    void elementOrder();
+    void cornersAndBounds_data();
+    void cornersAndBounds();
     void arcsRunCounterClockwiseWithYUp();
     void filledCapsuleLeavesItsCornersEmpty();
 };
 
-void TestRoundedPath::elementOrder_data()
+void TestRoundedPath::cornersAndBounds_data()
 {
-    QTest::addColumn<unsigned int>("style");
+    QTest::addColumn<QRectF>("rect");
     QTest::addColumn<float>("radius");
-    QTest::addColumn<QString>("shape");
+    QTest::addColumn<unsigned int>("style");
+    QTest::addColumn<unsigned int>("covered");
 
-    // Each 90-degree arc is one cubic curve; joins between arcs appear only where the arc
-    // ends and the next begins at different points.
-    QTest::newRow("left and right without an edge") << 6u << 5.0f << QStringLiteral("MLLLL");
-    QTest::newRow("top and bottom without a side") << 24u << 5.0f << QStringLiteral("MLLLL");
-    QTest::newRow("bottom-left only") << 18u << 5.0f << QStringLiteral("MCLLLL");
-    QTest::newRow("top-right only") << 12u << 5.0f << QStringLiteral("MLLCLL");
-    QTest::newRow("all four") << 30u << 5.0f << QStringLiteral("MCLCLCLCL");
-    QTest::newRow("bit 1 and bits above 16 ignored") << (30u | 32u | 1u) << 5.0f << QStringLiteral("MCLCLCLCL");
-    // 50 on a 40 x 20 rectangle becomes 10: both ends are half circles, so the right-hand
-    // arcs meet at (40, 10) without a join.
-    QTest::newRow("radius clamped to half the shorter side") << 30u << 50.0f << QStringLiteral("MCLCCLC");
+    const QRectF wide(0, 0, 40, 20);
+    QTest::newRow("all four rounded") << wide << 5.0f << 30u << 0u;
+    QTest::newRow("left and right need top or bottom") << wide << 5.0f << 6u << 15u;
+    QTest::newRow("bottom-left only") << wide << 5.0f << 18u << 14u;
+    QTest::newRow("top-right only") << wide << 5.0f << 12u << 11u;
+    QTest::newRow("bit 1 and bits above 16 ignored") << wide << 5.0f << (30u | 32u | 1u) << 0u;
+    QTest::newRow("radius clamped to half the shorter side") << wide << 50.0f << 30u << 0u;
+    QTest::newRow("radius 0 at the origin") << QRectF(0, 0, 10, 10) << 0.0f << 30u << 15u;
+    QTest::newRow("radius 0 away from the origin") << QRectF(5, 5, 10, 10) << 0.0f << 30u << 15u;
+    QTest::newRow("radius 0 on one corner") << QRectF(5, 5, 10, 10) << 0.0f << 18u << 15u;
 }
 
-void TestRoundedPath::elementOrder()
+void TestRoundedPath::cornersAndBounds()
 {
-    QFETCH(unsigned int, style);
+    QFETCH(QRectF, rect);
     QFETCH(float, radius);
-    QFETCH(QString, shape);
-    const QPainterPath path = Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, radius, style);
-    QCOMPARE(::shape(path), shape);
-    QCOMPARE(path.boundingRect(), QRectF(0, 0, 40, 20));
+    QFETCH(unsigned int, style);
+    QFETCH(unsigned int, covered);
+    const QPainterPath path = Brixel::bezierPathWithRoundedRect(ZARNRect::fromQRectF(rect), radius, style);
+    QCOMPARE(path.boundingRect(), rect);
+    QCOMPARE(coveredCorners(path, rect), covered);
 }
 
 void TestRoundedPath::arcsRunCounterClockwiseWithYUp()
