@@ -36,13 +36,26 @@ float shortestComponent(quint16 stored)
 
 } // namespace
 
-QColor Brixel::colorFromCalibratedRGBString(const QString &string)
+QRgbaFloat32 Brixel::rgbaFromCalibratedRGBString(const QString &string)
 {
     const QList<QStringView> parts = QStringView(string).split(u',');
     if (parts.size() <= 3)
-        return QColor::fromRgbF(0.0f, 0.0f, 0.0f, 1.0f);
-    return QColor::fromRgbF(leadingComponent(parts.at(0)), leadingComponent(parts.at(1)),
-                            leadingComponent(parts.at(2)), leadingComponent(parts.at(3)));
+        return QRgbaFloat32{0.0f, 0.0f, 0.0f, 1.0f};
+    return QRgbaFloat32{leadingComponent(parts.at(0)), leadingComponent(parts.at(1)),
+                        leadingComponent(parts.at(2)), leadingComponent(parts.at(3))};
+}
+
+QColor Brixel::colorFromCalibratedRGBString(const QString &string)
+{
+    const QRgbaFloat32 rgba = rgbaFromCalibratedRGBString(string);
+    return QColor::fromRgbF(rgba.r, rgba.g, rgba.b, rgba.a);
+}
+
+QString Brixel::asCalibratedRGBString(QRgbaFloat32 rgba)
+{
+    const QString comma(u',');
+    return BrixelPrivate::fixedText(rgba.r, 5) + comma + BrixelPrivate::fixedText(rgba.g, 5) + comma
+        + BrixelPrivate::fixedText(rgba.b, 5) + comma + BrixelPrivate::fixedText(rgba.a, 5);
 }
 
 QString Brixel::asCalibratedRGBString(const QColor &color)

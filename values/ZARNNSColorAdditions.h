@@ -4,18 +4,29 @@
 #include <Brixel/brixel_export.h>
 
 #include <QColor>
+#include <QRgbaFloat32>
 #include <QString>
 
 /**
  * \file
  * Colours written as text: four comma-separated components, red, green, blue and alpha, each
  * from 0 to 1 with five decimals, for example "1.00000,0.00000,0.00000,0.50000".
+ *
+ * The text holds single-precision components. QRgbaFloat32 holds them exactly, so code that
+ * stores colours (archives, settings) reads and writes them with rgbaFromCalibratedRGBString()
+ * and asCalibratedRGBString(QRgbaFloat32); the QColor forms are for drawing, since QColor
+ * keeps 16 bits per component ("1,0,0,0.5" gives an alpha of 0.5000076 there).
+ *
+ * \code
+ * const QRgbaFloat32 stored = Brixel::rgbaFromCalibratedRGBString(settings.value(key).toString());
+ * settings.setValue(key, Brixel::asCalibratedRGBString(stored));     // the same text back
+ * \endcode
  */
 
 namespace Brixel {
 
 /**
- * The colour that \a string describes. With four or more comma-separated parts, red, green,
+ * The components that \a string describes. With four or more comma-separated parts, red, green,
  * blue and alpha are the leading numbers of the first four parts, read as single-precision
  * values (leading blanks skipped, the number ends at the first character that cannot continue
  * it, a part without a number reads 0); further parts are ignored. With fewer parts (an empty
@@ -25,11 +36,22 @@ namespace Brixel {
  * and a number too large for a float, such as 1e99, reads as 1.
  *
  * \code
- * colorFromCalibratedRGBString(QStringLiteral("1,0,0,0.5"));   // red at half alpha
- * colorFromCalibratedRGBString(QStringLiteral("1,0,0"));       // opaque black
+ * Brixel::rgbaFromCalibratedRGBString(QStringLiteral("1,0,0,0.5"));   // red, alpha exactly 0.5f
+ * Brixel::rgbaFromCalibratedRGBString(QStringLiteral("1,0,0"));       // opaque black
  * \endcode
  */
+BRIXEL_EXPORT QRgbaFloat32 rgbaFromCalibratedRGBString(const QString &string);
+
+/// The colour that \a string describes, read as rgbaFromCalibratedRGBString() reads it and
+/// then held in QColor's 16 bits per component.
 BRIXEL_EXPORT QColor colorFromCalibratedRGBString(const QString &string);
+
+/**
+ * \a rgba as "%.5f,%.5f,%.5f,%.5f" of its red, green, blue and alpha, each the exact
+ * single-precision value rounded to five places, ties to even as C's printf rounds them
+ * (0.015625 is written "0.01562"). Values are written as they are, without clamping.
+ */
+BRIXEL_EXPORT QString asCalibratedRGBString(QRgbaFloat32 rgba);
 
 /**
  * \a color as "%.5f,%.5f,%.5f,%.5f" of its red, green, blue and alpha, after converting it to

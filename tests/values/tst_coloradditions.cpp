@@ -14,6 +14,8 @@ private Q_SLOTS:
     void write_data();
     void write();
     void everyStoredColorRoundTrips();
+    void exactComponents_data();
+    void exactComponents();
 };
 
 void TestColorAdditions::read_data()
@@ -63,6 +65,32 @@ void TestColorAdditions::everyStoredColorRoundTrips()
         if (back.rgba64() != color.rgba64())
             QFAIL(qPrintable(u"16-bit value %1 came back as %2"_s.arg(stored).arg(back.rgba64().red())));
     }
+}
+
+void TestColorAdditions::exactComponents_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QRgbaFloat32>("components");
+    QTest::addColumn<QString>("written");
+
+    QTest::newRow("half alpha is exactly half") << u"1,0,0,0.5"_s << QRgbaFloat32{1, 0, 0, 0.5f}
+                                                << u"1.00000,0.00000,0.00000,0.50000"_s;
+    QTest::newRow("a tie rounds to even") << u"0.015625,0.984375,0,1"_s << QRgbaFloat32{0.015625f, 0.984375f, 0, 1}
+                                          << u"0.01562,0.98438,0.00000,1.00000"_s;
+    QTest::newRow("single precision kept") << u"0.1,0.2,0.3,0.7"_s << QRgbaFloat32{0.1f, 0.2f, 0.3f, 0.7f}
+                                           << u"0.10000,0.20000,0.30000,0.70000"_s;
+    QTest::newRow("too few parts") << u"0.5"_s << QRgbaFloat32{0, 0, 0, 1} << u"0.00000,0.00000,0.00000,1.00000"_s;
+}
+
+void TestColorAdditions::exactComponents()
+{
+    QFETCH(QString, text);
+    QFETCH(QRgbaFloat32, components);
+    QFETCH(QString, written);
+    const QRgbaFloat32 read = Brixel::rgbaFromCalibratedRGBString(text);
+    const auto floats = [](QRgbaFloat32 c) { return QList<float>{c.r, c.g, c.b, c.a}; };
+    QCOMPARE(floats(read), floats(components));
+    QCOMPARE(Brixel::asCalibratedRGBString(read), written);
 }
 
 QTEST_GUILESS_MAIN(TestColorAdditions)
