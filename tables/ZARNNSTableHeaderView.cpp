@@ -6,13 +6,13 @@
 
 #include <QAbstractItemView>
 #include <QMouseEvent>
-#include <QStyle>
 
 #include <cmath>
 
 namespace {
 
-// How close to a column's right edge a double-click must be to fit that column.
+// How close to a column's right edge a double-click must be to fit that column, whatever
+// grip margin the style gives Qt's own resize handles.
 constexpr qreal dividerReach = 10.0;
 
 } // namespace
@@ -41,12 +41,12 @@ void ZARNNSTableHeaderView::setColumnList(BrixelPrivate::TableColumnList *column
 
 ZARNTableColumn *ZARNNSTableHeaderView::columnToFitAt(qreal x)
 {
-    if (!showsResizeCursorAt(int(std::floor(x))))
-        return nullptr;
     ZARNTableColumn *nearest = nullptr;
     qreal nearestDistance = dividerReach;
     for (ZARNTableColumn *column : columns().tableColumns()) {
         const int logical = column->modelColumn();
+        if (isSectionHidden(logical) || sectionResizeMode(logical) != Interactive)
+            continue;
         const qreal distance = std::abs(x - qreal(sectionViewportPosition(logical) + sectionSize(logical)));
         if (distance < nearestDistance) {
             nearest = column;
@@ -87,36 +87,6 @@ bool ZARNNSTableHeaderView::viewIsEnabled() const
 {
     const QWidget *view = parentWidget();
     return !view || view->isEnabled();
-}
-
-bool ZARNNSTableHeaderView::showsResizeCursorAt(int x) const
-{
-    const int handle = sectionHandleAt(x);
-    return handle >= 0 && sectionResizeMode(handle) == Interactive;
-}
-
-// The section whose edge is at x, as QHeaderView decides where to offer resizing: within the
-// style's grip margin of a section's trailing edge, or of its leading edge, which belongs to
-// the shown section before it.
-int ZARNNSTableHeaderView::sectionHandleAt(int x) const
-{
-    int visual = visualIndexAt(x);
-    if (visual < 0)
-        return -1;
-    const int logical = logicalIndex(visual);
-    const int start = sectionViewportPosition(logical);
-    const int grip = style()->pixelMetric(QStyle::PM_HeaderGripMargin, nullptr, this);
-    bool atLeading = x < start + grip;
-    bool atTrailing = x > start + sectionSize(logical) - grip;
-    if (isRightToLeft())
-        std::swap(atLeading, atTrailing);
-    if (atLeading) {
-        while (--visual >= 0)
-            if (!isSectionHidden(logicalIndex(visual)))
-                return logicalIndex(visual);
-        return -1;
-    }
-    return atTrailing ? logical : -1;
 }
 
 BrixelPrivate::TableColumnList &ZARNNSTableHeaderView::columns()

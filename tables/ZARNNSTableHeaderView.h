@@ -19,10 +19,10 @@ class TableColumnList;
  * divider fits the column to its data (sizeToFitData()) instead of Qt's
  * resizeColumnToContents(), and while its view is disabled the header ignores the mouse.
  *
- * A double-click counts as one on a divider where Qt's header shows its resize cursor: within
- * the style's PM_HeaderGripMargin of a section's edge, when the section the edge belongs to is
- * Interactive. The column fitted is then the one whose right edge is nearest the click, when
- * that is less than 10 pixels away; at equal distances the leftmost column wins. The header's
+ * A double-click counts as one on a divider when it is less than 10 points from the right edge
+ * of a shown Interactive column, whatever grip margin the style gives Qt's own resize handles
+ * (4 pixels with the stock styles). The column fitted is the one whose right edge is nearest
+ * the click; at equal distances the leftmost column wins. The header's
  * own handling (sectionHandleDoubleClicked(), and so the view's resizeColumnToContents()) does
  * not happen then. Any other double-click, or any double-click while
  * resizeColumnsOnDoubleClick() is false, goes to QHeaderView as usual.
@@ -63,8 +63,6 @@ protected:
 
 private:
     bool viewIsEnabled() const;
-    bool showsResizeCursorAt(int x) const;
-    int sectionHandleAt(int x) const;
     BrixelPrivate::TableColumnList &columns();
 
     QPointer<BrixelPrivate::TableColumnList> m_columns;

@@ -52,13 +52,15 @@ void TestHeaderView::doubleClick_data()
                                                                << QList<int>{fitted, 60, 60} << 0 << 0;
     QTest::newRow("trailing edge of the last") << even << X([](int) { return 178; }) << none
                                                << QList<int>{60, 60, fitted} << 0 << 0;
-    QTest::newRow("inside a section goes to the header") << even << X([](int grip) { return 60 - grip - 2; }) << none
-                                                         << even << 0 << 1;
+    QTest::newRow("8 points from a divider fits, beyond the grip") << even << X([](int) { return 52; }) << none
+                                                                  << QList<int>{fitted, 60, 60} << 0 << 0;
+    QTest::newRow("12 points from a divider goes to the header") << even << X([](int) { return 48; }) << none
+                                                                 << even << 0 << 1;
     QTest::newRow("switched off goes to the header")
         << even << X([](int) { return 59; })
         << SetUp([](auto &, auto &header) { header.setResizeColumnsOnDoubleClick(false); }) << QList<int>{-1, 60, 60}
         << 1 << 0;
-    QTest::newRow("fixed section shows no resize cursor")
+    QTest::newRow("fixed section is not fitted")
         << even << X([](int) { return 59; })
         << SetUp([](auto &, auto &header) { header.setSectionResizeMode(0, QHeaderView::Fixed); }) << even << 0 << 1;
     QTest::newRow("disabled view ignores it")
