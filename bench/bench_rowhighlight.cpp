@@ -26,11 +26,11 @@ int main(int argc, char *argv[])
 
     const double qtFill = brixelbench::nanosecondsPerCall([&] { painter.fillRect(row, qtSelection); });
     const double capsule = brixelbench::nanosecondsPerCall(
-        [&] { BrixelPrivate::drawRowHighlight(painter, row, 1, colors, gradient, QImage()); });
+        [&] { BrixelPrivate::drawRowHighlight(painter, row, ZARNTableView::HighlightStyle::Capsule, colors, gradient, QImage()); });
     brixelbench::report("drawRowHighlight capsule+gradient 1000x20", capsule, "QPainter::fillRect, palette highlight", qtFill);
 
     const QRectF shape = BrixelPrivate::selectionShapeRect(row, false);
-    const QPainterPath path = BrixelPrivate::highlightPath(shape, 1);
+    const QPainterPath path = BrixelPrivate::highlightPath(shape, ZARNTableView::HighlightStyle::Capsule);
     const double clipped = brixelbench::nanosecondsPerCall([&] {
         painter.save();
         painter.setRenderHint(QPainter::Antialiasing);
@@ -47,7 +47,7 @@ int main(int argc, char *argv[])
     brixelbench::report("capsule gradient fill: stretched texture", textured, "capsule gradient fill: clip + drawImage", clipped);
 
     const double flat = brixelbench::nanosecondsPerCall(
-        [&] { BrixelPrivate::drawRowHighlight(painter, row, 1, {highlight, highlight.darker(125), false}, gradient, QImage()); });
+        [&] { BrixelPrivate::drawRowHighlight(painter, row, ZARNTableView::HighlightStyle::Capsule, {highlight, highlight.darker(125), false}, gradient, QImage()); });
     brixelbench::report("drawRowHighlight capsule+flat fill 1000x20", flat, "QPainter::fillRect, palette highlight", qtFill);
 
     // A fractional row height rebuilds the image on every request.

@@ -131,13 +131,13 @@ int main(int argc, char *argv[])
     StringModel model;
 
     ZARNTableView table;
-    table.setHighlightStyle(ZARNTableView::Capsule);
+    table.setHighlightStyle(ZARNTableView::HighlightStyle::Capsule);
     QTableView plainTable;
     compare("ZARNTableView repaint 1000x800, rows selected", table, "QTableView repaint, same", plainTable, model);
 
     TreeModel tree;
     ZARNOutlineView outline;
-    outline.setHighlightStyle(ZARNTableView::Capsule);
+    outline.setHighlightStyle(ZARNTableView::HighlightStyle::Capsule);
     QTreeView plainTree;
     compare("ZARNOutlineView repaint 1000x800, rows selected", outline, "QTreeView repaint, same", plainTree, tree);
     return 0;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ItemViewBehaviour_p.h"
 
+#include "../platform/ZARNSystemVersion.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -74,6 +76,10 @@ ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view)
     m_liveResizeTimer.setSingleShot(true);
     m_liveResizeTimer.setInterval(LiveResizeSettleInterval);
     connect(&m_liveResizeTimer, &QTimer::timeout, this, &ItemViewBehaviour::liveResizeEnded);
+    // Selected text is drawn bold or not, and cells styled, by the system version: a view
+    // shows a changed version at once.
+    connect(ZARNSystemVersionNotifier::instance(), &ZARNSystemVersionNotifier::systemVersionChanged, this,
+            [this] { m_view->viewport()->update(); });
     if (qGuiApp) {
         connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
             if (state == Qt::ApplicationActive)

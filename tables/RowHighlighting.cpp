@@ -58,9 +58,13 @@ private:
     QPainter &m_painter;
 };
 
-void strokeWithDefaultWidth(QPainter &painter, const QPainterPath &path, const QColor &colour)
+// Strokes a drop marker at its own width. Drawing one also leaves the class-wide default line
+// width at that width, as code written against the toolkit's paths expects after a drop
+// marker; nothing here reads the default back.
+void strokeMarker(QPainter &painter, const QPainterPath &path, const QColor &colour)
 {
-    painter.strokePath(path, outlinePen(colour, Brixel::bezierPathDefaultLineWidth()));
+    Brixel::setBezierPathDefaultLineWidth(markerLineWidth);
+    painter.strokePath(path, outlinePen(colour, markerLineWidth));
 }
 
 // Source pixels that half a target pixel spans at \a scale, plus one, at most \a extent.
@@ -89,7 +93,7 @@ QImage withRepeatedEdges(const QImage &image, int borderX, int borderY)
 
 // The highlight shape of \a shape grown by \a amount on every side (shrunk when negative),
 // its corners kept concentric: the edges of a stroke \a amount * 2 wide with mitred corners.
-QPainterPath grownHighlightPath(const ZARNRect &shape, quint32 style, float amount)
+QPainterPath grownHighlightPath(const ZARNRect &shape, ZARNTableView::HighlightStyle style, float amount)
 {
     const ZARNRect grown = insetRect(shape, -amount, -amount);
     const float radius = highlightCornerRadius(shape.height(), style);
@@ -115,24 +119,24 @@ qreal indentationOffset(int level, qreal indentationPerLevel, bool expandable)
     return (!expandable && level != 0) ? qreal(indent) + 16.0 : qreal(indent);
 }
 
-float highlightCornerRadius(float shapeHeight, quint32 style)
+float highlightCornerRadius(float shapeHeight, ZARNTableView::HighlightStyle style)
 {
     switch (style) {
-    case 1:
+    case ZARNTableView::HighlightStyle::Capsule:
         return 0.5f * shapeHeight;
-    case 2:
+    case ZARNTableView::HighlightStyle::RoundedRectangle:
         return 0.2f * shapeHeight;
     default:
         return 0.0f;
     }
 }
 
-QPainterPath highlightPath(const QRectF &rect, quint32 style)
+QPainterPath highlightPath(const QRectF &rect, ZARNTableView::HighlightStyle style)
 {
     return grownHighlightPath(ZARNRect::fromQRectF(rect), style, 0.0f);
 }
 
-QPainterPath highlightOutlineRing(const QRectF &rect, quint32 style, float lineWidth)
+QPainterPath highlightOutlineRing(const QRectF &rect, ZARNTableView::HighlightStyle style, float lineWidth)
 {
     const ZARNRect shape = ZARNRect::fromQRectF(rect);
     QPainterPath ring = grownHighlightPath(shape, style, 0.5f * lineWidth);
@@ -158,7 +162,7 @@ void fillPathWithStretchedImage(QPainter &painter, const QPainterPath &path, con
     painter.fillPath(path, brush);
 }
 
-void drawRowHighlight(QPainter &painter, const QRectF &rowRect, quint32 style, const SelectionColors &colors,
+void drawRowHighlight(QPainter &painter, const QRectF &rowRect, ZARNTableView::HighlightStyle style, const SelectionColors &colors,
                       const QImage &gradient, const QImage &customImage)
 {
     const bool hasCustomImage = !customImage.isNull();
@@ -191,9 +195,7 @@ void drawDropHighlightOnRow(QPainter &painter, const QRectF &rect, bool rowSelec
     if (!rowSelected)
         painter.fillPath(path, withAlpha(colors.fill.toHsv(), 0.15f));
     const QColor stroke = rowSelected ? colors.outline : withAlpha(colors.outline.toRgb(), 0.9f);
-    // Intended: the default stays 2.0 for every later stroke that uses it.
-    Brixel::setBezierPathDefaultLineWidth(markerLineWidth);
-    strokeWithDefaultWidth(painter, path, stroke);
+    strokeMarker(painter, path, stroke);
 }
 
 void drawDropHighlightOnView(QPainter &painter, const QRectF &bounds, const SelectionColors &colors)
@@ -241,10 +243,8 @@ void drawDropMarker(QPainter &painter, const QLineF &line, const SelectionColors
 
     PainterStateGuard guard(painter);
     painter.fillPath(oval, Qt::white);
-    // Intended: the default stays 2.0 for every later stroke that uses it.
-    Brixel::setBezierPathDefaultLineWidth(markerLineWidth);
-    strokeWithDefaultWidth(painter, stroke, colors.outline);
-    strokeWithDefaultWidth(painter, oval, colors.outline);
+    strokeMarker(painter, stroke, colors.outline);
+    strokeMarker(painter, oval, colors.outline);
 }
 
 int textCellInset(qreal frameHeight)
@@ -252,9 +252,9 @@ int textCellInset(qreal frameHeight)
     return Brixel::truncatedToInt32(frameHeight * 0.25);
 }
 
-QRect insetTextCellFrame(QRect frame, quint32 style, int column, int columnCount)
+QRect insetTextCellFrame(QRect frame, ZARNTableView::HighlightStyle style, int column, int columnCount)
 {
-    if (style != 1 && style != 2)
+    if (style != ZARNTableView::HighlightStyle::Capsule && style != ZARNTableView::HighlightStyle::RoundedRectangle)
         return frame;
     const int inset = textCellInset(frame.height());
     if (column == 0)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "ZARNTableView.h"
 #include <Brixel/brixel_export.h>
 
 #include <QColor>
@@ -55,11 +56,11 @@ BRIXEL_AUTOTEST_EXPORT qreal indentationOffset(int level, qreal indentationPerLe
  * The corner radius of a highlight shape \a shapeHeight high: 0.5 times the height for
  * style 1 (capsule), 0.2 times for style 2 (rounded rectangle), 0 for every other style.
  */
-BRIXEL_AUTOTEST_EXPORT float highlightCornerRadius(float shapeHeight, quint32 style);
+BRIXEL_AUTOTEST_EXPORT float highlightCornerRadius(float shapeHeight, ZARNTableView::HighlightStyle style);
 
 /// The outline of a selected row's shape in \a rect: a rectangle, or for styles 1 and 2 a
 /// rectangle whose corners are rounded by highlightCornerRadius().
-BRIXEL_AUTOTEST_EXPORT QPainterPath highlightPath(const QRectF &rect, quint32 style);
+BRIXEL_AUTOTEST_EXPORT QPainterPath highlightPath(const QRectF &rect, ZARNTableView::HighlightStyle style);
 
 /**
  * The area a stroke \a lineWidth wide along highlightPath() covers, with mitred corners, as a
@@ -67,7 +68,7 @@ BRIXEL_AUTOTEST_EXPORT QPainterPath highlightPath(const QRectF &rect, quint32 st
  * much, corners kept concentric. Filling it gives the stroke's pixels at a fraction of the
  * cost of stroking.
  */
-BRIXEL_AUTOTEST_EXPORT QPainterPath highlightOutlineRing(const QRectF &rect, quint32 style, float lineWidth);
+BRIXEL_AUTOTEST_EXPORT QPainterPath highlightOutlineRing(const QRectF &rect, ZARNTableView::HighlightStyle style, float lineWidth);
 
 /// The colours a view draws its selection with; see selectionColor() and friends.
 struct SelectionColors
@@ -87,7 +88,7 @@ struct SelectionColors
  * An outline view whose highlight follows the indentation passes \a rowRect already indented
  * (see indentationOffset()). A null \a gradient leaves the shape's inside unfilled.
  */
-BRIXEL_AUTOTEST_EXPORT void drawRowHighlight(QPainter &painter, const QRectF &rowRect, quint32 style,
+BRIXEL_AUTOTEST_EXPORT void drawRowHighlight(QPainter &painter, const QRectF &rowRect, ZARNTableView::HighlightStyle style,
                                     const SelectionColors &colors, const QImage &gradient,
                                     const QImage &customImage);
 
@@ -159,7 +160,7 @@ BRIXEL_AUTOTEST_EXPORT int textCellInset(qreal frameHeight);
  * left, the last column on its right (a one-column table only on the left). Other columns
  * and other styles keep their frame.
  */
-BRIXEL_AUTOTEST_EXPORT QRect insetTextCellFrame(QRect frame, quint32 style, int column, int columnCount);
+BRIXEL_AUTOTEST_EXPORT QRect insetTextCellFrame(QRect frame, ZARNTableView::HighlightStyle style, int column, int columnCount);
 
 /// Where a drop lands: on a row, between it and a neighbour, or on the view (no row under
 /// the point).

@@ -78,7 +78,7 @@ class BRIXEL_AUTOTEST_EXPORT RowPainter
 public:
     struct Options
     {
-        quint32 highlightStyle = 0; ///< see ZARNTableView::HighlightStyle
+        ZARNTableView::HighlightStyle highlightStyle = ZARNTableView::HighlightStyle::Rectangle;
         bool inDragPrep = false;    ///< draw selected rows' contents as unselected
         bool insetFirstColumn = true; ///< apply the text-cell inset to the first column
     };

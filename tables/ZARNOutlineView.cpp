@@ -115,7 +115,7 @@ public:
     BrixelPrivate::TableColumnList *columns = nullptr;
     BrixelPrivate::HighlightGradientCache gradient;
     ZARNOutlineViewDelegate *delegate = nullptr;
-    quint32 highlightStyle = 0;
+    ZARNTableView::HighlightStyle highlightStyle = ZARNTableView::HighlightStyle::Rectangle;
     bool highlightFollowsIndentation = true;
     bool showsIndentationMarker = true;
     bool collapseForDeposits = false;
@@ -439,14 +439,17 @@ void ZARNOutlineView::setMenu(QMenu *menu)
     d->behaviour->setMenu(menu);
 }
 
-quint32 ZARNOutlineView::highlightStyle() const
+ZARNTableView::HighlightStyle ZARNOutlineView::highlightStyle() const
 {
     return d->highlightStyle;
 }
 
-void ZARNOutlineView::setHighlightStyle(quint32 style)
+void ZARNOutlineView::setHighlightStyle(ZARNTableView::HighlightStyle style)
 {
+    if (d->highlightStyle == style)
+        return;
     d->highlightStyle = style;
+    viewport()->update();
 }
 
 bool ZARNOutlineView::highlightFollowsIndentation() const
@@ -456,7 +459,10 @@ bool ZARNOutlineView::highlightFollowsIndentation() const
 
 void ZARNOutlineView::setHighlightFollowsIndentation(bool follows)
 {
+    if (d->highlightFollowsIndentation == follows)
+        return;
     d->highlightFollowsIndentation = follows;
+    viewport()->update();
 }
 
 bool ZARNOutlineView::showsIndentationMarker() const
@@ -466,7 +472,10 @@ bool ZARNOutlineView::showsIndentationMarker() const
 
 void ZARNOutlineView::setShowsIndentationMarker(bool shows)
 {
+    if (d->showsIndentationMarker == shows)
+        return;
     d->showsIndentationMarker = shows;
+    viewport()->update();
 }
 
 bool ZARNOutlineView::shouldCollapseAutoExpandedItemsForDeposits() const

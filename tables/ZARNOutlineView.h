@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "ZARNTableView.h"
 #include <Brixel/brixel_export.h>
 
 #include <QTreeView>
@@ -59,6 +60,10 @@ class ZARNTableColumn;
 class BRIXEL_EXPORT ZARNOutlineView : public QTreeView
 {
     Q_OBJECT
+    Q_PROPERTY(ZARNTableView::HighlightStyle highlightStyle READ highlightStyle WRITE setHighlightStyle)
+    Q_PROPERTY(bool highlightFollowsIndentation READ highlightFollowsIndentation WRITE setHighlightFollowsIndentation)
+    Q_PROPERTY(bool showsIndentationMarker READ showsIndentationMarker WRITE setShowsIndentationMarker)
+    Q_PROPERTY(bool drawsBranchIndicators READ drawsBranchIndicators WRITE setDrawsBranchIndicators)
 public:
     explicit ZARNOutlineView(QWidget *parent = nullptr);
     ~ZARNOutlineView() override;
@@ -73,8 +78,8 @@ public:
 
     /// How selected rows are drawn: ZARNTableView::HighlightStyle (any other value draws as a
     /// rectangle). Plain assignment, no redraw; 0 by default.
-    quint32 highlightStyle() const;
-    void setHighlightStyle(quint32 style);
+    ZARNTableView::HighlightStyle highlightStyle() const;
+    void setHighlightStyle(ZARNTableView::HighlightStyle style);
 
     /// Whether a selected row's highlight starts at its item's indentation; true by default.
     bool highlightFollowsIndentation() const;

@@ -251,7 +251,7 @@ public:
     std::unique_ptr<BrixelPrivate::TableColumnList> columns;
     BrixelPrivate::HighlightGradientCache gradientCache;
     ZARNTableViewDelegate *delegate = nullptr;
-    quint32 highlightStyle = ZARNTableView::Rectangle;
+    ZARNTableView::HighlightStyle highlightStyle = ZARNTableView::HighlightStyle::Rectangle;
     QString emptyString;
     std::optional<ZARNAttributedString> emptyAttributedString;
     BrixelPrivate::DropTarget dropTarget;
@@ -309,14 +309,17 @@ void ZARNTableView::setMenu(QMenu *menu)
     d->behaviour->setMenu(menu);
 }
 
-quint32 ZARNTableView::highlightStyle() const
+ZARNTableView::HighlightStyle ZARNTableView::highlightStyle() const
 {
     return d->highlightStyle;
 }
 
-void ZARNTableView::setHighlightStyle(quint32 style)
+void ZARNTableView::setHighlightStyle(HighlightStyle style)
 {
+    if (d->highlightStyle == style)
+        return;
     d->highlightStyle = style;
+    viewport()->update();
 }
 
 QString ZARNTableView::emptyString() const
@@ -326,7 +329,10 @@ QString ZARNTableView::emptyString() const
 
 void ZARNTableView::setEmptyString(const QString &string)
 {
+    if (d->emptyString == string)
+        return;
     d->emptyString = string;
+    viewport()->update();
 }
 
 std::optional<ZARNAttributedString> ZARNTableView::emptyAttributedString() const
@@ -337,6 +343,7 @@ std::optional<ZARNAttributedString> ZARNTableView::emptyAttributedString() const
 void ZARNTableView::setEmptyAttributedString(const std::optional<ZARNAttributedString> &string)
 {
     d->emptyAttributedString = string;
+    viewport()->update();
 }
 
 bool ZARNTableView::inDragPrep() const

@@ -61,14 +61,17 @@ class ZARNTableViewDelegate;
 class BRIXEL_EXPORT ZARNTableView : public QTableView
 {
     Q_OBJECT
+    Q_PROPERTY(HighlightStyle highlightStyle READ highlightStyle WRITE setHighlightStyle)
+    Q_PROPERTY(QString emptyString READ emptyString WRITE setEmptyString)
 public:
-    /// How selected rows are drawn; highlightStyle() holds one of these, and any other value
-    /// draws as Rectangle.
-    enum HighlightStyle : quint32 {
+    /// How selected rows are drawn, by this view and by ZARNOutlineView. A value outside the
+    /// three (from a cast) draws as Rectangle.
+    enum class HighlightStyle : quint32 {
         Rectangle = 0, ///< a plain rectangle
         Capsule = 1, ///< a rounded rectangle with half-circle ends
         RoundedRectangle = 2, ///< corners rounded by a fifth of the row's height
     };
+    Q_ENUM(HighlightStyle)
 
     /// How long after the last resize inLiveResize() keeps answering true, in milliseconds.
     static constexpr int LiveResizeSettleInterval = 250;
@@ -94,17 +97,17 @@ public:
     QMenu *menu() const;
     void setMenu(QMenu *menu);
 
-    /// One of HighlightStyle; any other number is kept and draws as Rectangle. Setting it
-    /// does not repaint by itself.
-    quint32 highlightStyle() const;
-    void setHighlightStyle(quint32 style);
+    /// The shape of selected rows; Rectangle by default. Setting another style repaints.
+    HighlightStyle highlightStyle() const;
+    void setHighlightStyle(HighlightStyle style);
 
-    /// The plain text shown while the table has no rows; a null string shows nothing.
+    /// The plain text shown while the table has no rows; a null string shows nothing. Setting
+    /// other text repaints.
     QString emptyString() const;
     void setEmptyString(const QString &string);
 
     /// The styled text shown while the table has no rows, in place of emptyString() when set
-    /// (even when empty); std::nullopt clears it.
+    /// (even when empty); std::nullopt clears it. Setting it repaints.
     std::optional<ZARNAttributedString> emptyAttributedString() const;
     void setEmptyAttributedString(const std::optional<ZARNAttributedString> &string);
 

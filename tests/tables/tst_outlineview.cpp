@@ -207,7 +207,7 @@ void TestOutlineView::defaults_data()
 
     QTest::newRow("no delegate, no menu") << ViewCheck([](auto &v) { return !v.delegate() && !v.menu(); });
     QTest::newRow("rectangle highlight following indentation")
-        << ViewCheck([](auto &v) { return v.highlightStyle() == 0 && v.highlightFollowsIndentation(); });
+        << ViewCheck([](auto &v) { return v.highlightStyle() == ZARNTableView::HighlightStyle::Rectangle && v.highlightFollowsIndentation(); });
     QTest::newRow("marker shown, drawn by Qt too")
         << ViewCheck([](auto &v) { return v.showsIndentationMarker() && v.drawsBranchIndicators(); });
     QTest::newRow("collapse after failed drops only")

@@ -156,13 +156,13 @@ void TestRowHighlighting::shapePath()
     QFETCH(quint32, style);
     QFETCH(float, radius);
     const QRectF shape = selectionShapeRect(QRectF(0, 0, 100, rowHeight), false);
-    QCOMPARE(highlightCornerRadius(float(shape.height()), style), radius);
+    QCOMPARE(highlightCornerRadius(float(shape.height()), ZARNTableView::HighlightStyle(style)), radius);
     QPainterPath expected;
     if (radius > 0)
         expected = Brixel::bezierPathWithRoundedRect(ZARNRect::fromQRectF(shape), radius);
     else
         expected.addRect(shape);
-    QCOMPARE(highlightPath(shape, style), expected);
+    QCOMPARE(highlightPath(shape, ZARNTableView::HighlightStyle(style)), expected);
 }
 
 void TestRowHighlighting::indentation_data()
@@ -212,7 +212,7 @@ void TestRowHighlighting::textCellFrame()
     QFETCH(int, columnCount);
     QFETCH(QRect, frame);
     QFETCH(QRect, expected);
-    QCOMPARE(insetTextCellFrame(frame, style, column, columnCount), expected);
+    QCOMPARE(insetTextCellFrame(frame, ZARNTableView::HighlightStyle(style), column, columnCount), expected);
 }
 
 void TestRowHighlighting::dropLine_data()
@@ -300,7 +300,7 @@ void TestRowHighlighting::selectedRow()
     QFETCH(Expectations, pixels);
     const SelectionColors colors{fill, outline, gradient};
     const QImage image = picture([&](QPainter &painter) {
-        drawRowHighlight(painter, row, style, colors, twoToneImage(), customImage ? solidImage(custom) : QImage());
+        drawRowHighlight(painter, row, ZARNTableView::HighlightStyle(style), colors, twoToneImage(), customImage ? solidImage(custom) : QImage());
         QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));   // state restored
     });
     verifyPixels(image, pixels);
@@ -328,7 +328,7 @@ void TestRowHighlighting::sameAsSlowerDrawing()
     QFETCH(quint32, style);
     QFETCH(bool, outlineRing);
     const QRectF shape = selectionShapeRect(row, false);
-    QPainterPath path = highlightPath(shape, style);
+    QPainterPath path = highlightPath(shape, ZARNTableView::HighlightStyle(style));
     QImage gradient(64, 18, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < gradient.height(); ++y)
         for (int x = 0; x < gradient.width(); ++x)
@@ -336,7 +336,7 @@ void TestRowHighlighting::sameAsSlowerDrawing()
     const QImage fast = picture([&](QPainter &painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         if (outlineRing)
-            painter.fillPath(highlightOutlineRing(shape, style, 1.0f), Qt::black);
+            painter.fillPath(highlightOutlineRing(shape, ZARNTableView::HighlightStyle(style), 1.0f), Qt::black);
         else
             fillPathWithStretchedImage(painter, path, shape, gradient);
     });

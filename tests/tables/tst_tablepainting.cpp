@@ -119,8 +119,8 @@ void TestTablePainting::selectedRow_data()
     QTest::addColumn<QPoint>("point"); // in the row; x below 0 counts from the right
     QTest::addColumn<Expect>("expected");
 
-    const quint32 rect = ZARNTableView::Rectangle;
-    const quint32 capsule = ZARNTableView::Capsule;
+    const quint32 rect = quint32(ZARNTableView::HighlightStyle::Rectangle);
+    const quint32 capsule = quint32(ZARNTableView::HighlightStyle::Capsule);
     // The fill covers the inner half of the 1-wide outline: edge pixels are half of each.
     QTest::newRow("rectangle: left end outlined") << rect << false << false << QPoint(0, 8) << Expect::Edge;
     QTest::newRow("capsule: corners left open") << capsule << true << false << QPoint(0, 0) << Expect::Background;
@@ -151,7 +151,7 @@ void TestTablePainting::selectedRow()
     if (customImage)
         delegate.image = red;
     table.view.setDelegate(&delegate);
-    table.view.setHighlightStyle(style);
+    table.view.setHighlightStyle(ZARNTableView::HighlightStyle(style));
     table.view.selectRow(1);
     if (!focused)
         table.view.clearFocus();
@@ -186,9 +186,9 @@ void TestTablePainting::textCellInset_data()
 {
     QTest::addColumn<quint32>("style");
     QTest::addColumn<bool>("inset");
-    QTest::newRow("rectangle") << quint32(ZARNTableView::Rectangle) << false;
-    QTest::newRow("capsule") << quint32(ZARNTableView::Capsule) << true;
-    QTest::newRow("rounded rectangle") << quint32(ZARNTableView::RoundedRectangle) << true;
+    QTest::newRow("rectangle") << quint32(ZARNTableView::HighlightStyle::Rectangle) << false;
+    QTest::newRow("capsule") << quint32(ZARNTableView::HighlightStyle::Capsule) << true;
+    QTest::newRow("rounded rectangle") << quint32(ZARNTableView::HighlightStyle::RoundedRectangle) << true;
     QTest::newRow("unknown style") << quint32(7) << false;
 }
 
@@ -202,7 +202,7 @@ void TestTablePainting::textCellInset()
         return brixeltest::pixelBounds(table.render().copy(table.view.rectOfRow(0)), isText).left();
     };
     const int plainLeft = textLeft();
-    table.view.setHighlightStyle(style);
+    table.view.setHighlightStyle(ZARNTableView::HighlightStyle(style));
     const int shift = inset ? BrixelPrivate::textCellInset(table.view.rectOfRow(0).height()) : 0;
     QCOMPARE(textLeft(), plainLeft + shift);
 }

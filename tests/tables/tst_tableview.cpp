@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableHeaderView.h>
+#include <Brixel/ZARNSystemVersion.h>
 #include <Brixel/ZARNTableColumn.h>
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTableViewDataSource.h>
@@ -71,6 +72,18 @@ public:
     bool responds = false;
     std::optional<bool> answer;
     QList<int> asked;
+};
+
+/// Counts the paint events \a widget receives from its construction on.
+struct PaintCounter : QObject
+{
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
 };
 
 class TestView : public ZARNTableView
@@ -171,6 +184,8 @@ private Q_SLOTS:
     void liveResize();
     void gradientFollowsActivation();
     void worksWithoutModelOrMenu();
+    void lookChangesRepaint_data();
+    void lookChangesRepaint();
 };
 
 void TestTableView::keys_data()
@@ -561,6 +576,37 @@ void TestTableView::worksWithoutModelOrMenu()
     view.setModel(&model);
     QTest::mousePress(view.viewport(), Qt::RightButton, {}, centreOfRow(view, 1));
     QCOMPARE(selectedRows(view), QList<int>{1});
+}
+
+void TestTableView::lookChangesRepaint_data()
+{
+    QTest::addColumn<std::function<void(ZARNTableView &)>>("change");
+    QTest::addColumn<bool>("repaints");
+
+    using Change = std::function<void(ZARNTableView &)>;
+    QTest::newRow("highlight style") << Change([](auto &v) { v.setHighlightStyle(ZARNTableView::HighlightStyle::Capsule); })
+                                     << true;
+    QTest::newRow("same highlight style")
+        << Change([](auto &v) { v.setHighlightStyle(ZARNTableView::HighlightStyle::Rectangle); }) << false;
+    QTest::newRow("empty string") << Change([](auto &v) { v.setEmptyString(u"None"_s); }) << true;
+    QTest::newRow("system version") << Change([](auto &) { Brixel::ZARNSetSystemVersion(0x1039); }) << true;
+}
+
+void TestTableView::lookChangesRepaint()
+{
+    QFETCH(std::function<void(ZARNTableView &)>, change);
+    QFETCH(bool, repaints);
+    DataSourceModel model(3, 2);
+    ZARNTableView view;
+    view.setModel(&model);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
+    PaintCounter paints(view.viewport());
+    change(view);
+    QCoreApplication::processEvents();
+    Brixel::ZARNSetSystemVersion(ZARNSystemVersionNewest);
+    QCOMPARE(paints.count > 0, repaints);
 }
 
 QTEST_MAIN(TestTableView)

@@ -143,11 +143,11 @@ QWidget *tableBox()
     table->showColumnWithIdentifier(QObject::tr("Kind"));
 
     auto *style = new QComboBox;
-    style->addItem(QObject::tr("Rectangle"), ZARNTableView::Rectangle);
-    style->addItem(QObject::tr("Capsule"), ZARNTableView::Capsule);
-    style->addItem(QObject::tr("Rounded rectangle"), ZARNTableView::RoundedRectangle);
+    style->addItem(QObject::tr("Rectangle"), QVariant::fromValue(ZARNTableView::HighlightStyle::Rectangle));
+    style->addItem(QObject::tr("Capsule"), QVariant::fromValue(ZARNTableView::HighlightStyle::Capsule));
+    style->addItem(QObject::tr("Rounded rectangle"), QVariant::fromValue(ZARNTableView::HighlightStyle::RoundedRectangle));
     QObject::connect(style, &QComboBox::currentIndexChanged, table, [table, style] {
-        table->setHighlightStyle(style->currentData().toUInt());
+        table->setHighlightStyle(style->currentData().value<ZARNTableView::HighlightStyle>());
         table->viewport()->update();
     });
     style->setCurrentIndex(1);
@@ -235,7 +235,7 @@ QWidget *outlineBox()
     outline->setModel(foldersModel(outline));
     static SignIndicators indicators;
     outline->setDelegate(&indicators);
-    outline->setHighlightStyle(ZARNTableView::RoundedRectangle);
+    outline->setHighlightStyle(ZARNTableView::HighlightStyle::RoundedRectangle);
     outline->setDragDropMode(QAbstractItemView::InternalMove);
     outline->setDefaultDropAction(Qt::MoveAction);
     outline->expand(outline->model()->index(0, 0));
