@@ -11,7 +11,7 @@ QT_END_NAMESPACE
 
 /**
  * \file
- * Path look-up in a parsed XML tree. The tree is a QDomNode from Qt XML; include <QDomNode>
+ * Path look-up in a parsed XML tree. The tree is a QDomNode from Qt XML; include &lt;QDomNode&gt;
  * and link Qt6::Xml to call it.
  */
 

@@ -68,7 +68,7 @@ BRIXEL_EXPORT QString stringByDeletingFileExtension(const QString &path);
  */
 BRIXEL_EXPORT QString withoutCharactersInSet(const QString &string, const std::function<bool(QChar)> &isInSet);
 
-/// \overload The set is the characters of \a characters.
+/// \a string without every character that \a characters holds.
 BRIXEL_EXPORT QString withoutCharactersInSet(const QString &string, QStringView characters);
 
 } // namespace Brixel
