@@ -53,30 +53,80 @@ ZARNRect BrixelPrivate::imageDestination(ZARNSize imageSize, const ZARNRect &are
     return destination;
 }
 
+class ZARNImageAndTextCellPrivate
+{
+public:
+    QImage image;
+    int imageScaling = 0;
+    ZARNSize imageSize;
+
+    // The last image reduced for drawing, so that rows sharing an image reduce it once.
+    qint64 reducedSourceKey = 0;
+    QImage reduced;
+};
+
 ZARNImageAndTextCell::ZARNImageAndTextCell(QObject *parent)
     : ZARNTextFieldCell(parent)
+    , d(std::make_unique<ZARNImageAndTextCellPrivate>())
 {
     const float side = float(textCellSize(QString(), font()).height() - 4.0);
-    m_imageSize = {side, side};
+    d->imageSize = {side, side};
 }
 
 ZARNImageAndTextCell::~ZARNImageAndTextCell() = default;
 
+QImage ZARNImageAndTextCell::image() const
+{
+    return d->image;
+}
+
+void ZARNImageAndTextCell::setImage(const QImage &image)
+{
+    d->image = image;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
+int ZARNImageAndTextCell::imageScaling() const
+{
+    return d->imageScaling;
+}
+
+void ZARNImageAndTextCell::setImageScaling(int scaling)
+{
+    if (d->imageScaling == scaling)
+        return;
+    d->imageScaling = scaling;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
+ZARNSize ZARNImageAndTextCell::imageSize() const
+{
+    return d->imageSize;
+}
+
+void ZARNImageAndTextCell::setImageSize(ZARNSize size)
+{
+    if (d->imageSize == size)
+        return;
+    d->imageSize = size;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
 ZARNRect ZARNImageAndTextCell::imageRectForBounds(const ZARNRect &bounds) const
 {
-    if (m_image.isNull())
+    if (d->image.isNull())
         return {};
-    const double below = std::ceil(double(bounds.height() - m_imageSize.height) * 0.5);
-    return {float(double(bounds.x()) + 2.0), float(double(bounds.y()) + below), m_imageSize.width,
-            m_imageSize.height};
+    const double below = std::ceil(double(bounds.height() - d->imageSize.height) * 0.5);
+    return {float(double(bounds.x()) + 2.0), float(double(bounds.y()) + below), d->imageSize.width,
+            d->imageSize.height};
 }
 
 ZARNRect ZARNImageAndTextCell::titleRectForBounds(const ZARNRect &bounds) const
 {
-    if (m_image.isNull())
+    if (d->image.isNull())
         return ZARNTextFieldCell::titleRectForBounds(bounds);
-    return {float(double(bounds.x()) + m_imageSize.width + 4.0 + 1.0), float(double(bounds.y()) + 2.0),
-            float(double(bounds.width()) - 4.0 - m_imageSize.width - 1.0), float(double(bounds.height()) - 4.0)};
+    return {float(double(bounds.x()) + d->imageSize.width + 4.0 + 1.0), float(double(bounds.y()) + 2.0),
+            float(double(bounds.width()) - 4.0 - d->imageSize.width - 1.0), float(double(bounds.height()) - 4.0)};
 }
 
 QImage ZARNImageAndTextCell::imageForIndex(const QModelIndex &index) const
@@ -89,12 +139,12 @@ QImage ZARNImageAndTextCell::imageForIndex(const QModelIndex &index) const
         return decoration.value<QPixmap>().toImage();
     case QMetaType::QIcon: {
         // An icon has no size of its own: it is asked for the size of the image area.
-        const QSize size(int(std::ceil(std::clamp(m_imageSize.width, 0.0f, 4096.0f))),
-                         int(std::ceil(std::clamp(m_imageSize.height, 0.0f, 4096.0f))));
+        const QSize size(int(std::ceil(std::clamp(d->imageSize.width, 0.0f, 4096.0f))),
+                         int(std::ceil(std::clamp(d->imageSize.height, 0.0f, 4096.0f))));
         return decoration.value<QIcon>().pixmap(size).toImage();
     }
     default:
-        return m_image;
+        return d->image;
     }
 }
 
@@ -119,11 +169,11 @@ void ZARNImageAndTextCell::drawImage(QPainter &painter, const QImage &image, con
     const QSizeF pixels = target.size() * ratio;
     if (pixels.width() < image.width() && pixels.height() < image.height()) {
         const QSize reducedSize(int(std::ceil(pixels.width())), int(std::ceil(pixels.height())));
-        if (m_reducedSourceKey != image.cacheKey() || m_reduced.size() != reducedSize) {
-            m_reduced = image.scaled(reducedSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            m_reducedSourceKey = image.cacheKey();
+        if (d->reducedSourceKey != image.cacheKey() || d->reduced.size() != reducedSize) {
+            d->reduced = image.scaled(reducedSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            d->reducedSourceKey = image.cacheKey();
         }
-        painter.drawImage(target, m_reduced, m_reduced.rect());
+        painter.drawImage(target, d->reduced, d->reduced.rect());
     } else {
         painter.drawImage(target, image, image.rect());
     }
@@ -139,13 +189,13 @@ void ZARNImageAndTextCell::paint(QPainter *painter, const QStyleOptionViewItem &
     }
     // The image area is the image rectangle's width (imageSize()'s) + 2, the full height.
     const ZARNRect frame = ZARNRect::fromQRectF(option.rect);
-    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft(frame, float(double(m_imageSize.width) + 2.0));
+    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft(frame, float(double(d->imageSize.width) + 2.0));
     if (drawsBackground()) {
         painter->fillRect(parts.slice.toQRectF(), backgroundColor().isValid() ? QBrush(backgroundColor())
                                                                                 : option.palette.base());
     }
     // Qt draws images upright in its top-down widgets, so no flipping transform is needed.
-    drawImage(*painter, image, BrixelPrivate::imageDestination(ownSize(image), parts.slice, m_imageScaling));
+    drawImage(*painter, image, BrixelPrivate::imageDestination(ownSize(image), parts.slice, d->imageScaling));
     ZARNTextFieldCell::paint(painter, withRect(option, parts.remainder), index);
 }
 
@@ -162,8 +212,8 @@ ZARNImageAndTextCell *ZARNImageAndTextCell::copy(QObject *parent) const
 {
     auto *cell = new ZARNImageAndTextCell(parent);
     copyTextSettingsTo(*cell);
-    cell->m_image = m_image;
-    cell->m_imageScaling = m_imageScaling;
-    cell->setImageSize(m_imageSize);
+    cell->d->image = d->image;
+    cell->d->imageScaling = d->imageScaling;
+    cell->setImageSize(d->imageSize);
     return cell;
 }

@@ -37,6 +37,8 @@
 class BRIXEL_EXPORT ZARNImageAndTextCell : public ZARNTextFieldCell
 {
     Q_OBJECT
+    Q_PROPERTY(QImage image READ image WRITE setImage)
+    Q_PROPERTY(int imageScaling READ imageScaling WRITE setImageScaling)
 public:
     /// A cell without an image, scaling 0 and an image size square as high as a line of the
     /// cell's font less 4 points.
@@ -45,17 +47,17 @@ public:
 
     /// The image drawn where the model gives none; a null image means none. Setting it does
     /// not change imageSize().
-    QImage image() const { return m_image; }
-    void setImage(const QImage &image) { m_image = image; }
+    QImage image() const;
+    void setImage(const QImage &image);
 
     /// How the image fills its area: 0 proportionally, 1 stretched, 2 unscaled; other values
     /// act as 0 but are kept as given.
-    int imageScaling() const { return m_imageScaling; }
-    void setImageScaling(int scaling) { m_imageScaling = scaling; }
+    int imageScaling() const;
+    void setImageScaling(int scaling);
 
     /// The size of the image area used to lay out the image and the title.
-    ZARNSize imageSize() const { return m_imageSize; }
-    void setImageSize(ZARNSize size) { m_imageSize = size; }
+    ZARNSize imageSize() const;
+    void setImageSize(ZARNSize size);
 
     /**
      * Where the image goes in \a bounds when the cell has image(): imageSize() at x + 2,
@@ -89,11 +91,5 @@ private:
     QImage imageForIndex(const QModelIndex &index) const;
     void drawImage(QPainter &painter, const QImage &image, const ZARNRect &destination) const;
 
-    QImage m_image;
-    int m_imageScaling = 0;
-    ZARNSize m_imageSize;
-
-    // The last image reduced for drawing, so that rows sharing an image reduce it once.
-    mutable qint64 m_reducedSourceKey = 0;
-    mutable QImage m_reduced;
+    std::unique_ptr<class ZARNImageAndTextCellPrivate> const d;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNTableView.h"
 
+#include "CellHighlighting_p.h"
 #include "EditingMoves_p.h"
 #include "HighlightGradientCache_p.h"
 #include "ItemViewBehaviour_p.h"
@@ -15,6 +16,7 @@
 #include "../drawing/ZARNAttributedStringDrawing.h"
 #include "../drawing/ZARNGeometry.h"
 #include "../platform/ZARNNotification.h"
+#include "../platform/ZARNSystemVersion.h"
 #include "../drawing/ZARNTextTruncation.h"
 
 #include <QApplication>
@@ -26,11 +28,6 @@
 #include <QVarLengthArray>
 
 namespace {
-
-ZARNShadow blackShadowWithAlpha(float alpha)
-{
-    return ZARNShadow{{0.0f, -1.0f}, 1.0f, QColor::fromRgbF(0.0f, 0.0f, 0.0f, alpha)};
-}
 
 /// Rows a painting pass visits; a screenful fits without allocating.
 using RowList = QVarLengthArray<int, 128>;
@@ -279,13 +276,17 @@ ZARNTableView::~ZARNTableView() = default;
 
 const ZARNShadow &ZARNTableView::standardShadow()
 {
-    static const ZARNShadow shadow = blackShadowWithAlpha(0.8f);
-    return shadow;
+    return BrixelPrivate::standardCellShadow();
+}
+
+ZARNAttributedString ZARNTableView::highlightCellContents(const ZARNAttributedString &text, const QFont &cellFont)
+{
+    return BrixelPrivate::highlightedCellText(text, cellFont, Brixel::ZARNSystemVersion());
 }
 
 const ZARNShadow &ZARNTableView::deactivatedShadow()
 {
-    static const ZARNShadow shadow = blackShadowWithAlpha(0.3f);
+    static const ZARNShadow shadow = BrixelPrivate::blackShadowWithAlpha(0.3f);
     return shadow;
 }
 

@@ -88,6 +88,16 @@ public:
     /// standardShadow() at 30% opacity, for text in inactive surroundings.
     static const ZARNShadow &deactivatedShadow();
 
+    /**
+     * \a text restyled as the contents of a selected cell are drawn, on a copy. Below system
+     * version 0x1040: white foreground on every character that has attributes, then
+     * standardShadow() on every character. From 0x1040 on: the standard shadow, then the bold
+     * form of the first character's font (or of \a cellFont when it has none) and white
+     * foreground on every character. Empty text comes back as it is. The text cells restyle
+     * selected rows with this.
+     */
+    static ZARNAttributedString highlightCellContents(const ZARNAttributedString &text, const QFont &cellFont);
+
     /// The object told about keys and editing and asked about cells; not owned, null for none.
     ZARNTableViewDelegate *delegate() const;
     void setDelegate(ZARNTableViewDelegate *delegate);

@@ -6,7 +6,6 @@
 #include "../values/NSMutableAttributedString_Category.h"
 #include "../drawing/ZARNAttributedStringDrawing.h"
 #include "../platform/ZARNSystemVersion.h"
-#include "ZARNTableView.h"
 #include "../drawing/ZARNTextTruncation.h"
 
 #include <QBrush>
@@ -56,9 +55,76 @@ void placeText(QPainter &painter, const ZARNAttributedTextLayout &layout, const 
 
 } // namespace
 
+class ZARNTextFieldCellPrivate
+{
+public:
+    QColor textColor;
+    QColor backgroundColor;
+    std::optional<QFont> font;
+    bool drawsBackground = false;
+
+    // The width of "..." for the last font asked about: cells too narrow for it skip the
+    // shortening altogether, and a column's cells usually share one font.
+    std::optional<QFont> dotsFont;
+    qreal dotsWidth = 0;
+};
+
 ZARNTextFieldCell::ZARNTextFieldCell(QObject *parent)
     : QStyledItemDelegate(parent)
+    , d(std::make_unique<ZARNTextFieldCellPrivate>())
 {
+}
+
+QColor ZARNTextFieldCell::textColor() const
+{
+    return d->textColor;
+}
+
+void ZARNTextFieldCell::setTextColor(const QColor &color)
+{
+    if (d->textColor == color)
+        return;
+    d->textColor = color;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
+QColor ZARNTextFieldCell::backgroundColor() const
+{
+    return d->backgroundColor;
+}
+
+void ZARNTextFieldCell::setBackgroundColor(const QColor &color)
+{
+    if (d->backgroundColor == color)
+        return;
+    d->backgroundColor = color;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
+bool ZARNTextFieldCell::drawsBackground() const
+{
+    return d->drawsBackground;
+}
+
+void ZARNTextFieldCell::setDrawsBackground(bool draws)
+{
+    if (d->drawsBackground == draws)
+        return;
+    d->drawsBackground = draws;
+    Q_EMIT sizeHintChanged(QModelIndex());
+}
+
+QFont ZARNTextFieldCell::font() const
+{
+    return d->font.value_or(QFont());
+}
+
+void ZARNTextFieldCell::setFont(const QFont &font)
+{
+    if (d->font == font)
+        return;
+    d->font = font;
+    Q_EMIT sizeHintChanged(QModelIndex());
 }
 
 ZARNTextFieldCell::~ZARNTextFieldCell() = default;
@@ -78,13 +144,13 @@ ZARNTextFieldCell::TextStyle ZARNTextFieldCell::textStyle(const QStyleOptionView
     TextStyle style;
     if (display.isValid())
         style.text = displayText(display, option.locale);
-    style.font = m_font.value_or(option.font);
+    style.font = d->font.value_or(option.font);
     if (font.isValid())
         style.font = font.value<QFont>().resolve(style.font);
     if (foreground.isValid())
         style.color = foregroundColor(foreground);
-    else if (m_textColor.isValid())
-        style.color = m_textColor;
+    else if (d->textColor.isValid())
+        style.color = d->textColor;
     else
         style.color = option.palette.color(colorGroup(option), QPalette::Text);
     style.alignment = alignment.isValid() ? Qt::Alignment(alignment.toInt()) : Qt::AlignLeft | Qt::AlignVCenter;
@@ -119,11 +185,11 @@ QSizeF ZARNTextFieldCell::textCellSize(const QString &text, const QFont &font)
 
 qreal ZARNTextFieldCell::dotsWidth(const QFont &font) const
 {
-    if (m_dotsFont != font) {
-        m_dotsWidth = ZARNAttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
-        m_dotsFont = font;
+    if (d->dotsFont != font) {
+        d->dotsWidth = ZARNAttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
+        d->dotsFont = font;
     }
-    return m_dotsWidth;
+    return d->dotsWidth;
 }
 
 void ZARNTextFieldCell::drawAttributedText(QPainter &painter, const ZARNAttributedString &text, const QRectF &bounds,
@@ -142,8 +208,8 @@ void ZARNTextFieldCell::drawAttributedText(QPainter &painter, const ZARNAttribut
 
 void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
-    if (m_drawsBackground) {
-        painter->fillRect(option.rect, m_backgroundColor.isValid() ? QBrush(m_backgroundColor)
+    if (d->drawsBackground) {
+        painter->fillRect(option.rect, d->backgroundColor.isValid() ? QBrush(d->backgroundColor)
                                                                    : option.palette.brush(colorGroup(option), QPalette::Base));
     }
     const TextStyle style = textStyle(option, index);
@@ -183,10 +249,10 @@ void ZARNTextFieldCell::initStyleOption(QStyleOptionViewItem *option, const QMod
 
 void ZARNTextFieldCell::copyTextSettingsTo(ZARNTextFieldCell &cell) const
 {
-    cell.m_textColor = m_textColor;
-    cell.m_backgroundColor = m_backgroundColor;
-    cell.m_font = m_font;
-    cell.m_drawsBackground = m_drawsBackground;
+    cell.d->textColor = d->textColor;
+    cell.d->backgroundColor = d->backgroundColor;
+    cell.d->font = d->font;
+    cell.d->drawsBackground = d->drawsBackground;
 }
 
 ZARNTextFieldCell *ZARNTextFieldCell::copy(QObject *parent) const
@@ -196,6 +262,17 @@ ZARNTextFieldCell *ZARNTextFieldCell::copy(QObject *parent) const
     return cell;
 }
 
+ZARNShadow BrixelPrivate::blackShadowWithAlpha(float alpha)
+{
+    return ZARNShadow{{0.0f, -1.0f}, 1.0f, QColor::fromRgbF(0.0f, 0.0f, 0.0f, alpha)};
+}
+
+const ZARNShadow &BrixelPrivate::standardCellShadow()
+{
+    static const ZARNShadow shadow = blackShadowWithAlpha(0.8f);
+    return shadow;
+}
+
 ZARNAttributedString BrixelPrivate::highlightedCellText(const ZARNAttributedString &text, const QFont &cellFont,
                                                  quint32 systemVersion)
 {
@@ -203,7 +280,7 @@ ZARNAttributedString BrixelPrivate::highlightedCellText(const ZARNAttributedStri
         return text;
     ZARNAttributedString copy = text;
     const ZARNRange whole{0, copy.length()};
-    const QVariant shadow = QVariant::fromValue(ZARNTableView::standardShadow());
+    const QVariant shadow = QVariant::fromValue(BrixelPrivate::standardCellShadow());
     const QColor white(Qt::white);
     if (systemVersion < 0x1040) {
         Brixel::replaceAttribute(copy, ZARNForegroundColorAttributeName, white);

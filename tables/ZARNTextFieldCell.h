@@ -9,6 +9,7 @@
 #include <QFont>
 #include <QStyledItemDelegate>
 
+#include <memory>
 #include <optional>
 
 /**
@@ -26,7 +27,7 @@
  * TruncateAttributedString(); a cell too narrow even for "..." draws no text.
  *
  * QStyle::State_Selected in the option means "draw the contents highlighted": the text is
- * restyled with BrixelPrivate::highlightedCellText() (white, with the table's standard shadow, bold
+ * restyled with ZARNTableView::highlightCellContents() (white, with the table's standard shadow, bold
  * on newer systems). The cell never paints a selection background; the view draws the
  * selection shape under its cells.
  *
@@ -42,6 +43,10 @@
 class BRIXEL_EXPORT ZARNTextFieldCell : public QStyledItemDelegate
 {
     Q_OBJECT
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(bool drawsBackground READ drawsBackground WRITE setDrawsBackground)
+    Q_PROPERTY(QFont font READ font WRITE setFont)
 public:
     /// The space kept free at either side of the text, in points.
     static constexpr qreal horizontalPadding = 2.0;
@@ -49,25 +54,28 @@ public:
     explicit ZARNTextFieldCell(QObject *parent = nullptr);
     ~ZARNTextFieldCell() override;
 
+    // Each setter that changes the look emits sizeHintChanged(), on which the views that use
+    // the cell lay out and repaint their rows.
+
     /// The colour of text the model gives no colour for; invalid (the default) means the view
     /// palette's text colour.
-    QColor textColor() const { return m_textColor; }
-    void setTextColor(const QColor &color) { m_textColor = color; }
+    QColor textColor() const;
+    void setTextColor(const QColor &color);
 
     /// The colour drawsBackground() fills the cell with; invalid (the default) means the view
     /// palette's base colour.
-    QColor backgroundColor() const { return m_backgroundColor; }
-    void setBackgroundColor(const QColor &color) { m_backgroundColor = color; }
+    QColor backgroundColor() const;
+    void setBackgroundColor(const QColor &color);
 
     /// Whether the cell fills its rectangle with backgroundColor() before drawing; false by
     /// default, letting the view's background and selection show through.
-    bool drawsBackground() const { return m_drawsBackground; }
-    void setDrawsBackground(bool draws) { m_drawsBackground = draws; }
+    bool drawsBackground() const;
+    void setDrawsBackground(bool draws);
 
     /// The font of text the model gives no font for. Until setFont() is called, the view's
     /// font is used and font() answers the application's default font.
-    QFont font() const { return m_font.value_or(QFont()); }
-    void setFont(const QFont &font) { m_font = font; }
+    QFont font() const;
+    void setFont(const QFont &font);
 
     /**
      * The text this cell shows for \a index, with the font, foreground colour and horizontal
@@ -116,13 +124,5 @@ private:
                             Qt::Alignment alignment) const;
     qreal dotsWidth(const QFont &font) const;
 
-    QColor m_textColor;
-    QColor m_backgroundColor;
-    std::optional<QFont> m_font;
-    bool m_drawsBackground = false;
-
-    // The width of "..." for the last font asked about: cells too narrow for it skip the
-    // shortening altogether, and a column's cells usually share one font.
-    mutable std::optional<QFont> m_dotsFont;
-    mutable qreal m_dotsWidth = 0;
+    std::unique_ptr<class ZARNTextFieldCellPrivate> const d;
 };
