@@ -6,9 +6,15 @@
 
 #include <QLineEdit>
 
+class ZARNFormatterDelegatePrivate
+{
+public:
+    std::shared_ptr<const ZARNFormatter> formatter;
+};
+
 ZARNFormatterDelegate::ZARNFormatterDelegate(std::shared_ptr<const ZARNFormatter> formatter, QObject *parent)
     : QStyledItemDelegate(parent)
-    , m_formatter(std::move(formatter))
+    , d(std::make_unique<ZARNFormatterDelegatePrivate>(std::move(formatter)))
 {
 }
 
@@ -16,45 +22,45 @@ ZARNFormatterDelegate::~ZARNFormatterDelegate() = default;
 
 std::shared_ptr<const ZARNFormatter> ZARNFormatterDelegate::formatter() const
 {
-    return m_formatter;
+    return d->formatter;
 }
 
 QString ZARNFormatterDelegate::displayText(const QVariant &value, const QLocale &locale) const
 {
-    if (!m_formatter)
+    if (!d->formatter)
         return QStyledItemDelegate::displayText(value, locale);
-    return m_formatter->stringForObjectValue(value);
+    return d->formatter->stringForObjectValue(value);
 }
 
 QWidget *ZARNFormatterDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
                                              const QModelIndex &index) const
 {
-    if (!m_formatter)
+    if (!d->formatter)
         return QStyledItemDelegate::createEditor(parent, option, index);
     auto *editor = new QLineEdit(parent);
     editor->setFrame(false);
-    editor->setValidator(new ZARNFormatterValidator(m_formatter, editor));
+    editor->setValidator(new ZARNFormatterValidator(d->formatter, editor));
     return editor;
 }
 
 void ZARNFormatterDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
 {
     auto *lineEdit = qobject_cast<QLineEdit *>(editor);
-    if (!m_formatter || !lineEdit) {
+    if (!d->formatter || !lineEdit) {
         QStyledItemDelegate::setEditorData(editor, index);
         return;
     }
-    lineEdit->setText(m_formatter->stringForObjectValue(index.data(Qt::EditRole)));
+    lineEdit->setText(d->formatter->stringForObjectValue(index.data(Qt::EditRole)));
 }
 
 void ZARNFormatterDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     auto *lineEdit = qobject_cast<QLineEdit *>(editor);
-    if (!m_formatter || !lineEdit) {
+    if (!d->formatter || !lineEdit) {
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
     QVariant value;
-    if (m_formatter->getObjectValue(&value, BrixelPrivate::editorText(lineEdit->text()), nullptr))
+    if (d->formatter->getObjectValue(&value, BrixelPrivate::editorText(lineEdit->text()), nullptr))
         model->setData(index, value, Qt::EditRole);
 }

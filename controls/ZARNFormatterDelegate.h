@@ -46,5 +46,5 @@ public:
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
 private:
-    std::shared_ptr<const ZARNFormatter> m_formatter;
+    std::unique_ptr<class ZARNFormatterDelegatePrivate> const d;
 };

@@ -3,9 +3,15 @@
 
 #include "FormatterEditing_p.h"
 
+class ZARNFormatterValidatorPrivate
+{
+public:
+    std::shared_ptr<const ZARNFormatter> formatter;
+};
+
 ZARNFormatterValidator::ZARNFormatterValidator(std::shared_ptr<const ZARNFormatter> formatter, QObject *parent)
     : QValidator(parent)
-    , m_formatter(std::move(formatter))
+    , d(std::make_unique<ZARNFormatterValidatorPrivate>(std::move(formatter)))
 {
 }
 
@@ -13,24 +19,24 @@ ZARNFormatterValidator::~ZARNFormatterValidator() = default;
 
 std::shared_ptr<const ZARNFormatter> ZARNFormatterValidator::formatter() const
 {
-    return m_formatter;
+    return d->formatter;
 }
 
 QValidator::State ZARNFormatterValidator::validate(QString &input, int &position) const
 {
     Q_UNUSED(position)
-    if (!m_formatter)
+    if (!d->formatter)
         return Acceptable;
     const QString text = BrixelPrivate::editorText(input);
     QVariant value;
-    if (!m_formatter->getObjectValue(&value, text, nullptr))
+    if (!d->formatter->getObjectValue(&value, text, nullptr))
         return Intermediate;
-    return m_formatter->stringForObjectValue(value) == text ? Acceptable : Intermediate;
+    return d->formatter->stringForObjectValue(value) == text ? Acceptable : Intermediate;
 }
 
 void ZARNFormatterValidator::fixup(QString &input) const
 {
-    if (!m_formatter)
+    if (!d->formatter)
         return;
     // Some displays do not read back as themselves (a formatter may show a value in a way
     // that reads as another one); formatting what they read settles within a few rounds.
@@ -38,9 +44,9 @@ void ZARNFormatterValidator::fixup(QString &input) const
     QString text = BrixelPrivate::editorText(input);
     for (int round = 0; round < maximumRounds; ++round) {
         QVariant value;
-        if (!m_formatter->getObjectValue(&value, text, nullptr))
+        if (!d->formatter->getObjectValue(&value, text, nullptr))
             break;
-        QString shown = m_formatter->stringForObjectValue(value);
+        QString shown = d->formatter->stringForObjectValue(value);
         if (shown == text)
             break;
         text = std::move(shown);

@@ -47,5 +47,5 @@ public:
     void fixup(QString &input) const override;
 
 private:
-    std::shared_ptr<const ZARNFormatter> m_formatter;
+    std::unique_ptr<class ZARNFormatterValidatorPrivate> const d;
 };

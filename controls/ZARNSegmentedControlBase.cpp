@@ -23,8 +23,23 @@ QStyleOptionButton buttonOption(const QWidget &widget, const QString &label, con
 
 } // namespace
 
+class ZARNSegmentedControlBasePrivate
+{
+public:
+    struct Segment
+    {
+        QString label;
+        QImage image;
+        int tag = 0;
+    };
+
+    QList<Segment> segments;
+    int selectedSegment = -1;
+};
+
 ZARNSegmentedControlBase::ZARNSegmentedControlBase(QWidget *parent)
     : QWidget(parent)
+    , d(std::make_unique<ZARNSegmentedControlBasePrivate>())
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
@@ -33,21 +48,21 @@ ZARNSegmentedControlBase::~ZARNSegmentedControlBase() = default;
 
 bool ZARNSegmentedControlBase::isSegment(int segment) const
 {
-    return segment >= 0 && segment < m_segments.size();
+    return segment >= 0 && segment < d->segments.size();
 }
 
 int ZARNSegmentedControlBase::segmentCount() const
 {
-    return int(m_segments.size());
+    return int(d->segments.size());
 }
 
 void ZARNSegmentedControlBase::setSegmentCount(int count)
 {
     count = std::max(count, 0);
-    if (count == m_segments.size())
+    if (count == d->segments.size())
         return;
-    m_segments.resize(count);
-    if (m_selectedSegment >= count)
+    d->segments.resize(count);
+    if (d->selectedSegment >= count)
         setSelectedSegment(-1);
     updateGeometry();
     update();
@@ -55,64 +70,64 @@ void ZARNSegmentedControlBase::setSegmentCount(int count)
 
 QString ZARNSegmentedControlBase::labelForSegment(int segment) const
 {
-    return isSegment(segment) ? m_segments.at(segment).label : QString();
+    return isSegment(segment) ? d->segments.at(segment).label : QString();
 }
 
 void ZARNSegmentedControlBase::setLabel(const QString &label, int segment)
 {
     if (!isSegment(segment))
         return;
-    m_segments[segment].label = label;
+    d->segments[segment].label = label;
     updateGeometry();
     update();
 }
 
 QImage ZARNSegmentedControlBase::imageForSegment(int segment) const
 {
-    return isSegment(segment) ? m_segments.at(segment).image : QImage();
+    return isSegment(segment) ? d->segments.at(segment).image : QImage();
 }
 
 void ZARNSegmentedControlBase::setImage(const QImage &image, int segment)
 {
     if (!isSegment(segment))
         return;
-    m_segments[segment].image = image;
+    d->segments[segment].image = image;
     updateGeometry();
     update();
 }
 
 int ZARNSegmentedControlBase::tagForSegment(int segment) const
 {
-    return isSegment(segment) ? m_segments.at(segment).tag : 0;
+    return isSegment(segment) ? d->segments.at(segment).tag : 0;
 }
 
 void ZARNSegmentedControlBase::setTag(int tag, int segment)
 {
     if (isSegment(segment))
-        m_segments[segment].tag = tag;
+        d->segments[segment].tag = tag;
 }
 
 int ZARNSegmentedControlBase::selectedSegment() const
 {
-    return m_selectedSegment;
+    return d->selectedSegment;
 }
 
 void ZARNSegmentedControlBase::setSelectedSegment(int segment)
 {
-    if ((segment != -1 && !isSegment(segment)) || segment == m_selectedSegment)
+    if ((segment != -1 && !isSegment(segment)) || segment == d->selectedSegment)
         return;
-    m_selectedSegment = segment;
+    d->selectedSegment = segment;
     update();
     Q_EMIT selectedSegmentChanged(segment);
 }
 
 bool ZARNSegmentedControlBase::selectSegmentWithTag(int tag)
 {
-    const auto found = std::find_if(m_segments.cbegin(), m_segments.cend(),
-                                    [tag](const Segment &segment) { return segment.tag == tag; });
-    if (found == m_segments.cend())
+    const auto found = std::find_if(d->segments.cbegin(), d->segments.cend(),
+                                    [tag](const ZARNSegmentedControlBasePrivate::Segment &segment) { return segment.tag == tag; });
+    if (found == d->segments.cend())
         return false;
-    setSelectedSegment(int(found - m_segments.cbegin()));
+    setSelectedSegment(int(found - d->segments.cbegin()));
     return true;
 }
 
@@ -149,7 +164,7 @@ void ZARNSegmentedControlBase::drawSegment(QPainter &painter, int segment, const
 {
     QStyleOptionButton option = buttonOption(*this, labelForSegment(segment), imageForSegment(segment));
     option.rect = frame;
-    option.state |= segment == m_selectedSegment ? QStyle::State_On | QStyle::State_Sunken : QStyle::State_Raised;
+    option.state |= segment == d->selectedSegment ? QStyle::State_On | QStyle::State_Sunken : QStyle::State_Raised;
     style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
 }
 

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <memory>
+
 /**
  * A row of segments, each with a label, an image and an integer tag, of which at most one is
  * selected. Qt has no such control; the library's segmented controls derive from this one.
@@ -77,16 +79,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
-    struct Segment
-    {
-        QString label;
-        QImage image;
-        int tag = 0;
-    };
-
     bool isSegment(int segment) const;
     QSize segmentSizeHint(int segment) const;
 
-    QList<Segment> m_segments;
-    int m_selectedSegment = -1;
+    std::unique_ptr<class ZARNSegmentedControlBasePrivate> const d;
 };

@@ -53,6 +53,13 @@ void Brixel::ZARNSetSystemVersion(quint32 code)
         Q_EMIT ZARNSystemVersionNotifier::instance()->systemVersionChanged(code);
 }
 
+class ZARNSystemVersionNotifierPrivate
+{
+};
+
+ZARNSystemVersionNotifier::ZARNSystemVersionNotifier() = default;
+ZARNSystemVersionNotifier::~ZARNSystemVersionNotifier() = default;
+
 ZARNSystemVersionNotifier *ZARNSystemVersionNotifier::instance()
 {
     static ZARNSystemVersionNotifier notifier;

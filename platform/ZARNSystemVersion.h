@@ -4,6 +4,8 @@
 #include <Brixel/brixel_export.h>
 
 #include <QObject>
+
+#include <memory>
 #include <QtGlobal>
 
 /**
@@ -58,5 +60,9 @@ Q_SIGNALS:
     void systemVersionChanged(quint32 code);
 
 private:
-    ZARNSystemVersionNotifier() = default;
+    ZARNSystemVersionNotifier();
+    ~ZARNSystemVersionNotifier() override;
+
+    // Holds nothing yet; it keeps room to add state without changing the class's layout.
+    std::unique_ptr<class ZARNSystemVersionNotifierPrivate> const d;
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNSTableHeaderView.h"
+#include "ZARNNSTableHeaderView_p.h"
 
 #include "ZARNNSTableColumnAdditions.h"
 #include "TableColumnList_p.h"
@@ -19,6 +20,7 @@ constexpr qreal dividerReach = 10.0;
 
 ZARNNSTableHeaderView::ZARNNSTableHeaderView(QWidget *parent)
     : QHeaderView(Qt::Horizontal, parent)
+    , d(std::make_unique<ZARNNSTableHeaderViewPrivate>())
 {
 }
 
@@ -26,17 +28,12 @@ ZARNNSTableHeaderView::~ZARNNSTableHeaderView() = default;
 
 bool ZARNNSTableHeaderView::resizeColumnsOnDoubleClick() const
 {
-    return m_resizeColumnsOnDoubleClick;
+    return d->resizeColumnsOnDoubleClick;
 }
 
 void ZARNNSTableHeaderView::setResizeColumnsOnDoubleClick(bool resize)
 {
-    m_resizeColumnsOnDoubleClick = resize;
-}
-
-void ZARNNSTableHeaderView::setColumnList(BrixelPrivate::TableColumnList *columns)
-{
-    m_columns = columns;
+    d->resizeColumnsOnDoubleClick = resize;
 }
 
 ZARNTableColumn *ZARNNSTableHeaderView::columnToFitAt(qreal x)
@@ -68,7 +65,7 @@ void ZARNNSTableHeaderView::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (!viewIsEnabled())
         return;
-    if (m_resizeColumnsOnDoubleClick && event->button() == Qt::LeftButton) {
+    if (d->resizeColumnsOnDoubleClick && event->button() == Qt::LeftButton) {
         if (ZARNTableColumn *column = columnToFitAt(event->position().x())) {
             Brixel::sizeToFitData(column);
             return;
@@ -91,10 +88,10 @@ bool ZARNNSTableHeaderView::viewIsEnabled() const
 
 BrixelPrivate::TableColumnList &ZARNNSTableHeaderView::columns()
 {
-    if (m_columns)
-        return *m_columns;
+    if (d->columns)
+        return *d->columns;
     auto *view = qobject_cast<QAbstractItemView *>(parentWidget());
-    if (!m_ownColumns || m_ownColumns->view() != view)
-        m_ownColumns = std::make_unique<BrixelPrivate::TableColumnList>(view, this);
-    return *m_ownColumns;
+    if (!d->ownColumns || d->ownColumns->view() != view)
+        d->ownColumns = std::make_unique<BrixelPrivate::TableColumnList>(view, this);
+    return *d->ownColumns;
 }

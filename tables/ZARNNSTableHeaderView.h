@@ -4,11 +4,11 @@
 #include <Brixel/brixel_export.h>
 
 #include <QHeaderView>
-#include <QPointer>
 
 #include <memory>
 
 class ZARNTableColumn;
+class ZARNNSTableHeaderViewPrivate;
 
 namespace BrixelPrivate {
 class TableColumnList;
@@ -30,11 +30,10 @@ class TableColumnList;
  * \code
  * auto *header = new ZARNNSTableHeaderView(view);
  * view->setHorizontalHeader(header);
- * header->setColumnList(columns); // optional: the view's own column objects
  * \endcode
  *
- * The header uses the column objects of the list set with setColumnList(); without one it
- * makes its own for the item view it belongs to (its parent widget).
+ * In ZARNTableView and ZARNOutlineView the header works on the view's own column objects;
+ * elsewhere it makes its own for the item view it belongs to (its parent widget).
  */
 class BRIXEL_EXPORT ZARNNSTableHeaderView : public QHeaderView
 {
@@ -47,12 +46,9 @@ public:
     bool resizeColumnsOnDoubleClick() const;
     void setResizeColumnsOnDoubleClick(bool resize);
 
-    /// The column objects the header works on (not owned); null makes it use its own.
-    void setColumnList(BrixelPrivate::TableColumnList *columns);
-
     /**
-     * The column a double-click at \a x (viewport coordinates) fits: null unless Qt's header
-     * shows its resize cursor at \a x and a column's right edge is less than 10 pixels away.
+     * The column a double-click at \a x (viewport coordinates) fits: the shown Interactive
+     * column whose right edge is nearest \a x, when less than 10 points away; otherwise null.
      */
     ZARNTableColumn *columnToFitAt(qreal x);
 
@@ -62,10 +58,9 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    friend class ZARNNSTableHeaderViewPrivate;
     bool viewIsEnabled() const;
     BrixelPrivate::TableColumnList &columns();
 
-    QPointer<BrixelPrivate::TableColumnList> m_columns;
-    std::unique_ptr<BrixelPrivate::TableColumnList> m_ownColumns;
-    bool m_resizeColumnsOnDoubleClick = true;
+    std::unique_ptr<ZARNNSTableHeaderViewPrivate> const d;
 };

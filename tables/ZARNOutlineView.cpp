@@ -3,7 +3,7 @@
 
 #include "HighlightGradientCache_p.h"
 #include "ItemViewBehaviour_p.h"
-#include "ZARNNSTableHeaderView.h"
+#include "ZARNNSTableHeaderView_p.h"
 #include "ZARNOutlineViewDelegate.h"
 #include "RowPainter_p.h"
 #include "ZARNTableColumn.h"
@@ -405,7 +405,7 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
     columnHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setHeader(columnHeader);
     d->columns = new BrixelPrivate::TableColumnList(this, columnHeader, this);
-    columnHeader->setColumnList(d->columns);
+    ZARNNSTableHeaderViewPrivate::get(columnHeader)->columns = d->columns;
     setItemDelegate(new ZARNTextFieldCell(this));
     setDropIndicatorShown(false);
 

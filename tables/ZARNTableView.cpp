@@ -5,7 +5,7 @@
 #include "EditingMoves_p.h"
 #include "HighlightGradientCache_p.h"
 #include "ItemViewBehaviour_p.h"
-#include "ZARNNSTableHeaderView.h"
+#include "ZARNNSTableHeaderView_p.h"
 #include "RowPainter_p.h"
 #include "ZARNTableColumn.h"
 #include "TableColumnList_p.h"
@@ -263,7 +263,7 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     auto *header = new ZARNNSTableHeaderView(this);
     setHorizontalHeader(header);
     d->columns = std::make_unique<BrixelPrivate::TableColumnList>(this, header);
-    header->setColumnList(d->columns.get());
+    ZARNNSTableHeaderViewPrivate::get(header)->columns = d->columns.get();
     setSelectionBehavior(SelectRows);
     setDropIndicatorShown(false);
     setItemDelegate(new ZARNTextFieldCell(this));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableHeaderView.h>
+#include "tables/ZARNNSTableHeaderView_p.h"
 #include "tables/TableColumnList_p.h"
 
 #include <QSignalSpy>
@@ -127,7 +128,7 @@ void TestHeaderView::ownColumnsOrTheViewsList()
     QCOMPARE(header->columnToFitAt(30), nullptr);
 
     BrixelPrivate::TableColumnList columns(&view, header);
-    header->setColumnList(&columns);
+    ZARNNSTableHeaderViewPrivate::get(header)->columns = &columns;
     QCOMPARE(header->columnToFitAt(59), columns.columnAt(0));
     QVERIFY(header->resizeColumnsOnDoubleClick());
 }
