@@ -9,6 +9,11 @@
 class ZARNFormatterDelegatePrivate
 {
 public:
+    explicit ZARNFormatterDelegatePrivate(std::shared_ptr<const ZARNFormatter> formatter)
+        : formatter(std::move(formatter))
+    {
+    }
+
     std::shared_ptr<const ZARNFormatter> formatter;
 };
 

@@ -6,6 +6,11 @@
 class ZARNFormatterValidatorPrivate
 {
 public:
+    explicit ZARNFormatterValidatorPrivate(std::shared_ptr<const ZARNFormatter> formatter)
+        : formatter(std::move(formatter))
+    {
+    }
+
     std::shared_ptr<const ZARNFormatter> formatter;
 };
 
