@@ -43,7 +43,6 @@ class TestFormatterAdapters : public QObject
 private Q_SLOTS:
     void validateAndFixup_data();
     void validateAndFixup();
-    void lineEditTidiesOnReturn();
     void delegateEditsThroughFormatter_data();
     void delegateEditsThroughFormatter();
     void delegateWithoutAView();
@@ -79,22 +78,6 @@ void TestFormatterAdapters::validateAndFixup()
     // What fixup leaves behind is final, unless the formatter cannot read it at all.
     if (formatter && formatter->getObjectValue(nullptr, fixed, nullptr))
         QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
-}
-
-void TestFormatterAdapters::lineEditTidiesOnReturn()
-{
-    QLineEdit field;
-    field.setValidator(new ZARNFormatterValidator(durations(), &field));
-    QSignalSpy finished(&field, &QLineEdit::editingFinished);
-    field.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&field));
-
-    QTest::keyClicks(&field, u"1:5:9"_s);
-    QCOMPARE(field.text(), u"1:5:9"_s); // typing is never blocked
-    QVERIFY(!field.hasAcceptableInput());
-    QTest::keyClick(&field, Qt::Key_Return);
-    QCOMPARE(field.text(), u"1:05:09"_s);
-    QCOMPARE(finished.count(), 1);
 }
 
 void TestFormatterAdapters::delegateEditsThroughFormatter_data()

@@ -69,11 +69,8 @@ private Q_SLOTS:
     void alignsEachParagraph();
     void shadowLiesUnderTheGlyphs_data();
     void shadowLiesUnderTheGlyphs();
-    void antialiasing_data();
-    void antialiasing();
     void drawsOnlyLinesStartingInsideTheRectangle_data();
     void drawsOnlyLinesStartingInsideTheRectangle();
-    void plainTextDrawsAsItsAttributedForm();
 };
 
 void TestAttributedStringDrawing::measures_data()
@@ -215,28 +212,6 @@ void TestAttributedStringDrawing::shadowLiesUnderTheGlyphs()
     }
 }
 
-void TestAttributedStringDrawing::antialiasing_data()
-{
-    QTest::addColumn<bool>("antialiased");
-    QTest::newRow("smoothed") << true;
-    QTest::newRow("without font smoothing") << false;
-}
-
-void TestAttributedStringDrawing::antialiasing()
-{
-    QFETCH(bool, antialiased);
-    ZARNAttributedString string = text(u"Round glyphs "_s);
-    string.append(ZARNAttributedString(u"and the default font"_s));
-    const QImage image = render([&](QPainter &painter) {
-        Brixel::drawAttributedString(painter, string, QRectF(5, 5, 390, 190), true, antialiased);
-    });
-    const QRect partial = brixeltest::pixelBounds(image, [](const QColor &color) {
-        return color.red() > 30 && color.red() < 225;
-    });
-    QCOMPARE(partial.isNull(), !antialiased);
-    QVERIFY(!brixeltest::pixelBounds(image, isInk).isNull());
-}
-
 void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle_data()
 {
     QTest::addColumn<QRectF>("rect");
@@ -264,23 +239,6 @@ void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle()
         const QImage band = image.copy(0, int(10 + line * spacing + 2), image.width(), int(spacing) - 4);
         QCOMPARE(!brixeltest::pixelBounds(band, isInk).isNull(), line < linesDrawn);
     }
-}
-
-void TestAttributedStringDrawing::plainTextDrawsAsItsAttributedForm()
-{
-    const QColor blue(Qt::blue);
-    const ZARNAttributedString attributed(u"Same\nPixels"_s, {{ZARNFontAttributeName, bigFont()},
-                                                            {ZARNForegroundColorAttributeName, blue},
-                                                            {ZARNParagraphAlignmentAttributeName,
-                                                             QVariant::fromValue(Qt::Alignment(Qt::AlignHCenter))}});
-    const QRectF rect(10, 10, 380, 180);
-    const QImage fromAttributed = render([&](QPainter &painter) {
-        ZARNAttributedTextLayout(attributed, 0, false).draw(painter, rect);
-    });
-    const QImage fromPlain = render([&](QPainter &painter) {
-        ZARNAttributedTextLayout(u"Same\nPixels"_s, bigFont(), blue, Qt::AlignHCenter).draw(painter, rect);
-    });
-    QCOMPARE(fromPlain, fromAttributed);
 }
 
 QTEST_MAIN(TestAttributedStringDrawing)

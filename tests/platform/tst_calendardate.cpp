@@ -66,6 +66,8 @@ void TestCalendarDate::arithmetic_data()
     QTest::newRow("day 0 is the last day of the month before") << QList{2024, 3, 0, 0, 0, 0} << none << u"Thu 2024-02-29 00:00:00"_s;
     QTest::newRow("30 February runs into March") << QList{2023, 2, 30, 0, 0, 0} << none << u"Thu 2023-03-02 00:00:00"_s;
     QTest::newRow("centuries follow the Gregorian rule") << QList{2100, 3, 0, 0, 0, 0} << none << u"Sun 2100-02-28 00:00:00"_s;
+    QTest::newRow("a month back in a century year") << QList{2100, 3, 31, 0, 0, 0} << QList{0, -1, 0, 0, 0, 0} << u"Sun 2100-02-28 00:00:00"_s;
+    QTest::newRow("before 1970") << QList{1969, 12, 31, 12, 0, 0} << none << u"Wed 1969-12-31 12:00:00"_s;
     QTest::newRow("second -1 is the second before") << QList{2024, 1, 1, 0, 0, -1} << none << u"Sun 2023-12-31 23:59:59"_s;
     QTest::newRow("fields at the minimum clamp") << minimum << none << u"Mon 0001-01-01 00:00:00"_s;
     QTest::newRow("fields at the maximum clamp") << maximum << none << u"Fri 9999-12-31 23:59:59"_s;

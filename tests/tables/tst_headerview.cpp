@@ -31,7 +31,6 @@ class TestHeaderView : public QObject
 private Q_SLOTS:
     void doubleClick_data();
     void doubleClick();
-    void ownColumnsOrTheViewsList();
 };
 
 void TestHeaderView::doubleClick_data()
@@ -111,26 +110,6 @@ void TestHeaderView::doubleClick()
             QCOMPARE(header->sectionSize(section), expected.at(section));
     QCOMPARE(handleSpy.size(), handleSignals);
     QCOMPARE(sectionSpy.size(), sectionSignals);
-}
-
-void TestHeaderView::ownColumnsOrTheViewsList()
-{
-    QStandardItemModel model(1, 2);
-    QTableView view;
-    view.setModel(&model);
-    auto *header = new ZARNNSTableHeaderView;
-    view.setHorizontalHeader(header);
-    header->resizeSection(0, 60);
-    view.resize(300, 100);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QCOMPARE(header->columnToFitAt(59)->modelColumn(), 0);
-    QCOMPARE(header->columnToFitAt(30), nullptr);
-
-    BrixelPrivate::TableColumnList columns(&view, header);
-    ZARNNSTableHeaderViewPrivate::get(header)->columns = &columns;
-    QCOMPARE(header->columnToFitAt(59), columns.columnAt(0));
-    QVERIFY(header->resizeColumnsOnDoubleClick());
 }
 
 QTEST_MAIN(TestHeaderView)

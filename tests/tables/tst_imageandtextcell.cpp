@@ -53,10 +53,6 @@ private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
     void imageAndTitleRects_data();
     void imageAndTitleRects();
-    void divideRectFromLeft_data();
-    void divideRectFromLeft();
-    void imageDestination_data();
-    void imageDestination();
     void drawsTheImageArea_data();
     void drawsTheImageArea();
     void sizeAndEditorMakeRoomForTheImage_data();
@@ -99,58 +95,6 @@ void TestImageAndTextCell::imageAndTitleRects()
     cell.setImageSize(imageSize);
     QCOMPARE(cell.imageRectForBounds(bounds), imageRect);
     QCOMPARE(cell.titleRectForBounds(bounds), titleRect);
-}
-
-void TestImageAndTextCell::divideRectFromLeft_data()
-{
-    QTest::addColumn<float>("amount");
-    QTest::addColumn<ZARNRect>("slice");
-    QTest::addColumn<ZARNRect>("remainder");
-
-    QTest::newRow("inside") << 18.0f << ZARNRect{10, 5, 18, 20} << ZARNRect{28, 5, 32, 20};
-    QTest::newRow("wider than the rect") << 80.0f << ZARNRect{10, 5, 50, 20} << ZARNRect{60, 5, 0, 20};
-    QTest::newRow("negative") << -3.0f << ZARNRect{10, 5, 0, 20} << ZARNRect{10, 5, 50, 20};
-    QTest::newRow("NaN") << float(qQNaN()) << ZARNRect{10, 5, 0, 20} << ZARNRect{10, 5, 50, 20};
-}
-
-void TestImageAndTextCell::divideRectFromLeft()
-{
-    QFETCH(float, amount);
-    QFETCH(ZARNRect, slice);
-    QFETCH(ZARNRect, remainder);
-    const BrixelPrivate::RectDivision parts = BrixelPrivate::divideRectFromLeft({10, 5, 50, 20}, amount);
-    QCOMPARE(parts.slice, slice);
-    QCOMPARE(parts.remainder, remainder);
-}
-
-void TestImageAndTextCell::imageDestination_data()
-{
-    QTest::addColumn<ZARNSize>("imageSize");
-    QTest::addColumn<ZARNRect>("area");
-    QTest::addColumn<int>("scaling");
-    QTest::addColumn<ZARNRect>("expected");
-
-    const ZARNRect area{0, 0, 20, 18};
-    QTest::newRow("proportional, width limits") << ZARNSize{32, 16} << area << 0 << ZARNRect{0, 4, 20, 10};
-    QTest::newRow("proportional enlarges") << ZARNSize{4, 8} << area << 0 << ZARNRect{6, 0, 9, 18};
-    QTest::newRow("other values act as 0") << ZARNSize{32, 16} << area << 7 << ZARNRect{0, 4, 20, 10};
-    QTest::newRow("negative acts as 0") << ZARNSize{32, 16} << area << -1 << ZARNRect{0, 4, 20, 10};
-    QTest::newRow("stretch") << ZARNSize{32, 16} << area << 1 << area;
-    QTest::newRow("unscaled overflows") << ZARNSize{32, 16} << area << 2 << ZARNRect{-6, 1, 32, 16};
-    QTest::newRow("origin snapped, halves to even") << ZARNSize{16, 16} << ZARNRect{0, 0, 21, 19} << 2
-                                                    << ZARNRect{2, 2, 16, 16};
-    QTest::newRow("size kept fractional") << ZARNSize{10, 10} << ZARNRect{0.25f, 0, 15, 15} << 0
-                                          << ZARNRect{0, 0, 15, 15};
-    QTest::newRow("empty area") << ZARNSize{10, 10} << ZARNRect{5, 5, 0, 18} << 0 << ZARNRect{5, 14, 0, 0};
-}
-
-void TestImageAndTextCell::imageDestination()
-{
-    QFETCH(ZARNSize, imageSize);
-    QFETCH(ZARNRect, area);
-    QFETCH(int, scaling);
-    QFETCH(ZARNRect, expected);
-    QCOMPARE(BrixelPrivate::imageDestination(imageSize, area, scaling), expected);
 }
 
 void TestImageAndTextCell::drawsTheImageArea_data()

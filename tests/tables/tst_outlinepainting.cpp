@@ -95,7 +95,6 @@ private Q_SLOTS:
     void highlightFollowsIndentation();
     void hiddenMarkerWidensCell_data();
     void hiddenMarkerWidensCell();
-    void selectedTextIsWhite();
 };
 
 void TestOutlinePainting::indicator_data()
@@ -197,16 +196,6 @@ void TestOutlinePainting::hiddenMarkerWidensCell()
     const QImage image = o.render();
     QCOMPARE(hasPixel(image, QRect(cell.left() - 16, cell.top(), 16, cell.height()), isText), widened);
     QVERIFY(hasPixel(image, cell.adjusted(-16, 0, 0, 0), isText));
-}
-
-void TestOutlinePainting::selectedTextIsWhite()
-{
-    Outline o;
-    o.view.selectionModel()->select(o.item(u"b"_s), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    const QImage image = o.render();
-    const QRect text = o.cell(u"b"_s).adjusted(0, 3, -60, -3);
-    QVERIFY(hasPixel(image, text, isWhite)); // white text on the fill
-    QVERIFY(hasPixel(image, o.cell(u"a"_s).adjusted(0, 3, -60, -3), isText));
 }
 
 QTEST_MAIN(TestOutlinePainting)

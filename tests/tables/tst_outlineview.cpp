@@ -175,11 +175,8 @@ private Q_SLOTS:
     void clicks();
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
-    void disabledViewIgnoresInput();
     void textCellsGreyWhileDisabled_data();
     void textCellsGreyWhileDisabled();
-    void scrollBarsFollowTheEnabledState_data();
-    void scrollBarsFollowTheEnabledState();
     void hidingColumns_data();
     void hidingColumns();
     void activationRemakesTheGradient();
@@ -241,10 +238,7 @@ void TestOutlineView::keys_data()
     QTest::newRow("Return") << u"b"_s << int(Qt::Key_Return) << QStringList{u"return"_s} << QStringList{u"b"_s} << false;
     QTest::newRow("Backspace") << u"b"_s << int(Qt::Key_Backspace) << QStringList{u"delete"_s} << QStringList{u"b"_s} << false;
     QTest::newRow("Down moves the row") << u"b"_s << int(Qt::Key_Down) << QStringList{u"changing"_s} << QStringList{u"c"_s} << false;
-    QTest::newRow("Up moves the row") << u"b"_s << int(Qt::Key_Up) << QStringList{u"changing"_s} << QStringList{u"a"_s} << false;
-    QTest::newRow("Down on the last row stays") << u"c"_s << int(Qt::Key_Down) << none << QStringList{u"c"_s} << false;
     QTest::newRow("Right expands as Qt does") << u"a"_s << int(Qt::Key_Right) << none << QStringList{u"a"_s} << true;
-    QTest::newRow("letters do not select by text") << u"a"_s << int(Qt::Key_C) << none << QStringList{u"a"_s} << false;
 }
 
 void TestOutlineView::keys()
@@ -383,26 +377,6 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
     }
 }
 
-void TestOutlineView::disabledViewIgnoresInput()
-{
-    Fixture f;
-    QMenu menu;
-    f.view.setMenu(&menu);
-    f.select({u"b"_s});
-    f.view.setEnabled(false);
-
-    QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.pointIn(u"c"_s, 60));
-    QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(u"c"_s, 60));
-    QTest::keyClick(&f.view, Qt::Key_Return);
-    f.view.setFocus();
-
-    QCOMPARE(f.selectedNames(), QStringList{u"b"_s});
-    QVERIFY(f.delegate.calls.isEmpty());
-    QVERIFY(!menu.isVisible());
-    QVERIFY(!f.view.hasFocus());
-    QVERIFY(!f.view.acceptsFirstResponder());
-}
-
 void TestOutlineView::textCellsGreyWhileDisabled_data()
 {
     QTest::addColumn<QList<Action>>("steps");
@@ -451,46 +425,6 @@ void TestOutlineView::textCellsGreyWhileDisabled()
 
     QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
     QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
-}
-
-void TestOutlineView::scrollBarsFollowTheEnabledState_data()
-{
-    QTest::addColumn<Qt::ScrollBarPolicy>("policy");
-    QTest::addColumn<bool>("barEnabledBefore");
-    QTest::addColumn<QList<Action>>("steps");
-    QTest::addColumn<bool>("barEnabledAfter");
-
-    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
-    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
-    const Action disableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(false); };
-    const Action enableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(true); };
-    const Action enableBar = [](Fixture &f) { f.view.verticalScrollBar()->setEnabled(true); };
-
-    QTest::newRow("enabled bar comes back enabled") << Qt::ScrollBarAsNeeded << true << QList{disable, enable} << true;
-    QTest::newRow("disabled bar stays disabled") << Qt::ScrollBarAsNeeded << false << QList{disable, enable} << false;
-    QTest::newRow("always-off bar is left alone") << Qt::ScrollBarAlwaysOff << true << QList{disable, enable} << true;
-    QTest::newRow("disabling twice saves once") << Qt::ScrollBarAlwaysOn << false << QList{disable, enableBar, disable, enable} << false;
-    QTest::newRow("a disabled ancestor counts") << Qt::ScrollBarAsNeeded << true << QList{disableParent, enableParent} << true;
-    QTest::newRow("bar is off while disabled") << Qt::ScrollBarAsNeeded << true << QList{disable} << false;
-}
-
-void TestOutlineView::scrollBarsFollowTheEnabledState()
-{
-    QFETCH(Qt::ScrollBarPolicy, policy);
-    QFETCH(bool, barEnabledBefore);
-    QFETCH(QList<Action>, steps);
-    QFETCH(bool, barEnabledAfter);
-    QWidget parent;
-    Fixture f;
-    f.view.setParent(&parent);
-    parent.show();
-    f.view.setVerticalScrollBarPolicy(policy);
-    f.view.verticalScrollBar()->setEnabled(barEnabledBefore);
-
-    for (const Action &step : steps)
-        step(f);
-
-    QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
 }
 
 void TestOutlineView::hidingColumns_data()

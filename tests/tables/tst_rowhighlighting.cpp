@@ -20,27 +20,8 @@ namespace {
 
 const QColor outline(200, 0, 0);
 const QColor fill(0, 0, 200);
-const QColor gradientTop(0, 255, 0);
-const QColor gradientBottom(255, 255, 0);
-const QColor custom(255, 0, 255);
 const QColor none(Qt::transparent);
 const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
-
-// Two flat halves, so a pixel tells which end of the image it came from.
-QImage twoToneImage()
-{
-    QImage image(64, 18, QImage::Format_ARGB32_Premultiplied);
-    image.fill(gradientTop);
-    QPainter(&image).fillRect(0, 9, 64, 9, gradientBottom);
-    return image;
-}
-
-QImage solidImage(const QColor &colour)
-{
-    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
-    image.fill(colour);
-    return image;
-}
 
 QImage picture(const std::function<void(QPainter &)> &draw)
 {
@@ -49,11 +30,6 @@ QImage picture(const std::function<void(QPainter &)> &draw)
     QPainter painter(&image);
     draw(painter);
     return image;
-}
-
-QColor mix(const QColor &a, const QColor &b)
-{
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
 QColor withAlpha(QColor colour, int alpha)
@@ -91,18 +67,10 @@ private Q_SLOTS:
     void init();
     void shapeRect_data();
     void shapeRect();
-    void shapePath_data();
-    void shapePath();
-    void indentation_data();
-    void indentation();
-    void textCellFrame_data();
-    void textCellFrame();
     void dropLine_data();
     void dropLine();
     void dropPosition_data();
     void dropPosition();
-    void selectedRow_data();
-    void selectedRow();
     void sameAsSlowerDrawing_data();
     void sameAsSlowerDrawing();
     void drops_data();
@@ -134,85 +102,6 @@ void TestRowHighlighting::shapeRect()
     QFETCH(QRectF, drop);
     QCOMPARE(selectionShapeRect(rowRect, customImage), selection);
     QCOMPARE(dropHighlightRect(rowRect, customImage), drop);
-}
-
-void TestRowHighlighting::shapePath_data()
-{
-    QTest::addColumn<qreal>("rowHeight");
-    QTest::addColumn<quint32>("style");
-    QTest::addColumn<float>("radius");   // 0: a plain rectangle
-
-    // The shape is two less high than its row: 0.5 off the top and bottom, then 1 less.
-    QTest::newRow("capsule, 18-high row: 16-high shape") << qreal(18) << 1u << 8.0f;
-    QTest::newRow("capsule, 19-high row") << qreal(19) << 1u << 8.5f;
-    QTest::newRow("rounded rectangle") << qreal(18) << 2u << 3.2f;
-    QTest::newRow("rectangle") << qreal(18) << 0u << 0.0f;
-    QTest::newRow("unknown style: rectangle") << qreal(18) << 3u << 0.0f;
-}
-
-void TestRowHighlighting::shapePath()
-{
-    QFETCH(qreal, rowHeight);
-    QFETCH(quint32, style);
-    QFETCH(float, radius);
-    const QRectF shape = selectionShapeRect(QRectF(0, 0, 100, rowHeight), false);
-    QCOMPARE(highlightCornerRadius(float(shape.height()), ZARNTableView::HighlightStyle(style)), radius);
-    QPainterPath expected;
-    if (radius > 0)
-        expected = Brixel::bezierPathWithRoundedRect(ZARNRect::fromQRectF(shape), radius);
-    else
-        expected.addRect(shape);
-    QCOMPARE(highlightPath(shape, ZARNTableView::HighlightStyle(style)), expected);
-}
-
-void TestRowHighlighting::indentation_data()
-{
-    QTest::addColumn<int>("level");
-    QTest::addColumn<qreal>("perLevel");
-    QTest::addColumn<bool>("expandable");
-    QTest::addColumn<qreal>("offset");
-
-    QTest::newRow("top level") << 0 << qreal(16) << false << qreal(0);
-    QTest::newRow("expandable child") << 2 << qreal(16) << true << qreal(32);
-    QTest::newRow("leaf child: past the triangle") << 2 << qreal(16) << false << qreal(48);
-    QTest::newRow("product truncated") << 3 << qreal(12.5) << true << qreal(37);
-    QTest::newRow("NaN indentation") << 1 << std::numeric_limits<qreal>::quiet_NaN() << true << qreal(INT_MIN);
-}
-
-void TestRowHighlighting::indentation()
-{
-    QFETCH(int, level);
-    QFETCH(qreal, perLevel);
-    QFETCH(bool, expandable);
-    QFETCH(qreal, offset);
-    QCOMPARE(indentationOffset(level, perLevel, expandable), offset);
-}
-
-void TestRowHighlighting::textCellFrame_data()
-{
-    QTest::addColumn<quint32>("style");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("columnCount");
-    QTest::addColumn<QRect>("frame");
-    QTest::addColumn<QRect>("expected");
-
-    const QRect frame(10, 0, 100, 18);   // inset 18 * 0.25 = 4.5, truncated to 4
-    QTest::newRow("capsule: first column, left") << 1u << 0 << 3 << frame << QRect(14, 0, 96, 18);
-    QTest::newRow("rounded: last column, right") << 2u << 2 << 3 << frame << QRect(10, 0, 96, 18);
-    QTest::newRow("middle column kept") << 1u << 1 << 3 << frame << frame;
-    QTest::newRow("one column: left only") << 1u << 0 << 1 << frame << QRect(14, 0, 96, 18);
-    QTest::newRow("rectangle kept") << 0u << 0 << 3 << frame << frame;
-    QTest::newRow("15 high: inset 3") << 1u << 0 << 2 << QRect(0, 0, 50, 15) << QRect(3, 0, 47, 15);
-}
-
-void TestRowHighlighting::textCellFrame()
-{
-    QFETCH(quint32, style);
-    QFETCH(int, column);
-    QFETCH(int, columnCount);
-    QFETCH(QRect, frame);
-    QFETCH(QRect, expected);
-    QCOMPARE(insetTextCellFrame(frame, ZARNTableView::HighlightStyle(style), column, columnCount), expected);
 }
 
 void TestRowHighlighting::dropLine_data()
@@ -269,41 +158,6 @@ void TestRowHighlighting::dropPosition()
     QFETCH(bool, accepts);
     QFETCH(DropPosition, position);
     QCOMPARE(dropPositionInRow(rowRect, y, accepts), position);
-}
-
-void TestRowHighlighting::selectedRow_data()
-{
-    QTest::addColumn<quint32>("style");
-    QTest::addColumn<bool>("gradient");
-    QTest::addColumn<bool>("customImage");
-    QTest::addColumn<Expectations>("pixels");
-
-    // The row (10, 6, 100, 18) gives the shape (10.5, 6.5, 99, 16): its outline runs through
-    // the middle of pixel row 6 and column 10, and the fill covers the inner half of those.
-    QTest::newRow("rectangle, flat fill") << 0u << false << false
-        << Expectations{{{60, 14}, fill}, {{60, 6}, mix(outline, fill)}, {{10, 14}, mix(outline, fill)},
-                        {{60, 23}, none}, {{9, 14}, none}, {{60, 5}, none}};
-    QTest::newRow("capsule, gradient") << 1u << true << false
-        << Expectations{{{60, 8}, gradientTop}, {{60, 21}, gradientBottom}, {{60, 6}, mix(outline, gradientTop)},
-                        {{60, 22}, mix(outline, gradientBottom)}, {{10, 6}, none}, {{11, 7}, none}, {{108, 21}, none}};
-    QTest::newRow("rounded rectangle: small corners") << 2u << false << false
-        << Expectations{{{10, 6}, none}, {{13, 9}, fill}, {{60, 14}, fill}};
-    QTest::newRow("custom image: whole row, no outline") << 1u << true << true
-        << Expectations{{{60, 6}, custom}, {{60, 23}, custom}, {{15, 14}, custom}, {{10, 6}, none}};
-}
-
-void TestRowHighlighting::selectedRow()
-{
-    QFETCH(quint32, style);
-    QFETCH(bool, gradient);
-    QFETCH(bool, customImage);
-    QFETCH(Expectations, pixels);
-    const SelectionColors colors{fill, outline, gradient};
-    const QImage image = picture([&](QPainter &painter) {
-        drawRowHighlight(painter, row, ZARNTableView::HighlightStyle(style), colors, twoToneImage(), customImage ? solidImage(custom) : QImage());
-        QVERIFY(!painter.testRenderHint(QPainter::Antialiasing));   // state restored
-    });
-    verifyPixels(image, pixels);
 }
 
 void TestRowHighlighting::sameAsSlowerDrawing_data()

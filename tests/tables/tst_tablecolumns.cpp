@@ -153,10 +153,7 @@ private Q_SLOTS:
     void followsMovedColumns_data();
     void followsMovedColumns();
     void anotherModelMakesNewColumns();
-    void width_data();
-    void width();
     void hiddenColumnKeepsItsWidth();
-    void dataCellFollowsTheView();
 };
 
 void TestTableColumns::hideAndShow_data()
@@ -415,41 +412,6 @@ void TestTableColumns::anotherModelMakesNewColumns()
     QCOMPARE(list.columnForModelColumn(0), nullptr);
 }
 
-void TestTableColumns::width_data()
-{
-    QTest::addColumn<float>("minWidth");
-    QTest::addColumn<float>("maxWidth");
-    QTest::addColumn<float>("width");
-    QTest::addColumn<float>("expected");
-
-    QTest::newRow("within the limits") << 10.0f << 1.0e6f << 80.0f << 80.0f;
-    QTest::newRow("rounded to whole pixels") << 10.0f << 1.0e6f << 80.5f << 81.0f;
-    QTest::newRow("below the minimum") << 30.0f << 1.0e6f << 5.0f << 30.0f;
-    QTest::newRow("negative") << 10.0f << 1.0e6f << -50.0f << 10.0f;
-    QTest::newRow("above the maximum") << 10.0f << 60.0f << 80.0f << 60.0f;
-    QTest::newRow("NaN gives the minimum") << 12.0f << 1.0e6f << std::numeric_limits<float>::quiet_NaN() << 12.0f;
-    QTest::newRow("infinite held by the maximum") << 10.0f << 1.0e6f << std::numeric_limits<float>::infinity() << 1.0e6f;
-    QTest::newRow("huge maximum held by the header") << 10.0f << 1.0e12f << 1.0e12f << 1048575.0f;
-}
-
-void TestTableColumns::width()
-{
-    QFETCH(float, minWidth);
-    QFETCH(float, maxWidth);
-    QFETCH(float, width);
-    QFETCH(float, expected);
-    TwoColumnTable table;
-    table.view.horizontalHeader()->setMinimumSectionSize(0);
-    auto &[model, view, list] = table;
-    ZARNTableColumn *column = list.columnAt(1);
-    column->setMinWidth(minWidth);
-    column->setMaxWidth(maxWidth);
-
-    column->setWidth(width);
-    QCOMPARE(column->width(), expected);
-    QCOMPARE(view.horizontalHeader()->sectionSize(1), int(expected));
-}
-
 void TestTableColumns::hiddenColumnKeepsItsWidth()
 {
     TwoColumnTable table;
@@ -464,22 +426,6 @@ void TestTableColumns::hiddenColumnKeepsItsWidth()
     list.showColumnWithIdentifier(u"A"_s);
     QCOMPARE(view.horizontalHeader()->sectionSize(0), 90);
     QVERIFY(!column->isHidden());
-}
-
-void TestTableColumns::dataCellFollowsTheView()
-{
-    TwoColumnTable table;
-    auto &[model, view, list] = table;
-    ZARNTableColumn *column = list.columnAt(1);
-    QCOMPARE(column->dataCell(), view.itemDelegate());
-    QStyledItemDelegate cell;
-    column->setDataCell(&cell);
-    QCOMPARE(column->dataCell(), &cell);
-    QCOMPARE(view.itemDelegateForColumn(1), &cell);
-    QCOMPARE(column->tableView(), &view);
-    QCOMPARE(column->minWidth(), 10.0f);
-    QCOMPARE(column->maxWidth(), 1.0e6f);
-    QVERIFY(column->isEditable());
 }
 
 QTEST_MAIN(TestTableColumns)

@@ -178,11 +178,9 @@ private Q_SLOTS:
     void controlClick();
     void editingMoves_data();
     void editingMoves();
-    void movesCommitEditorsThatDoNotCommitThemselves();
     void dragPicture_data();
     void dragPicture();
     void liveResize();
-    void gradientFollowsActivation();
     void worksWithoutModelOrMenu();
     void lookChangesRepaint_data();
     void lookChangesRepaint();
@@ -436,24 +434,6 @@ void TestTableView::editingMoves()
     QCOMPARE(selectedRows(view), QList<int>{current.row()});
 }
 
-void TestTableView::movesCommitEditorsThatDoNotCommitThemselves()
-{
-    DataSourceModel model(4, 3);
-    TestView view;
-    view.setModel(&model);
-    view.edit(model.index(1, 1));
-    editorAt(view, 1, 1)->setText(u"direct"_s);
-    view.closeEditor(editorAt(view, 1, 1), QAbstractItemDelegate::EditNextItem);
-    QCOMPARE(model.text(1, 1), u"direct"_s);
-    QCOMPARE(openEditor(view), u"(1, 2)"_s);
-
-    // Closing without a move is Qt's own and commits nothing.
-    editorAt(view, 1, 2)->setText(u"dropped"_s);
-    view.closeEditor(editorAt(view, 1, 2), QAbstractItemDelegate::NoHint);
-    QCOMPARE(model.text(1, 2), u"r1c2"_s);
-    QCOMPARE(openEditor(view), u"none"_s);
-}
-
 void TestTableView::dragPicture_data()
 {
     QTest::addColumn<QList<int>>("selected");
@@ -524,27 +504,6 @@ void TestTableView::liveResize()
     QCOMPARE(view.liveResizeEnds, 0);
     QTRY_COMPARE(view.liveResizeEnds, 1);
     QVERIFY(!view.inLiveResize());
-}
-
-void TestTableView::gradientFollowsActivation()
-{
-    ZARNTableView view;
-    QVERIFY(qobject_cast<ZARNNSTableHeaderView *>(view.horizontalHeader()));
-    const auto useHighlight = [&view](QColor colour) {
-        QPalette palette = view.palette();
-        palette.setColor(QPalette::Active, QPalette::Highlight, colour);
-        view.setPalette(palette);
-    };
-    const auto middleHue = [](const QImage &image) { return image.pixelColor(32, image.height() / 2).hsvHue(); };
-
-    useHighlight(QColor(0, 80, 220));
-    const QImage blue = view.highlightGradientImage();
-    useHighlight(QColor(220, 40, 40));
-    QCOMPARE(view.highlightGradientImage(), blue); // kept until the application becomes active
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
-    QCOMPARE(view.highlightGradientImage(), blue);
-    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
-    QCOMPARE(middleHue(view.highlightGradientImage()), QColor(220, 40, 40).hsvHue());
 }
 
 void TestTableView::worksWithoutModelOrMenu()

@@ -11,8 +11,6 @@ class TestColorAdditions : public QObject
 private Q_SLOTS:
     void read_data();
     void read();
-    void write_data();
-    void write();
     void everyStoredColorRoundTrips();
     void exactComponents_data();
     void exactComponents();
@@ -38,23 +36,6 @@ void TestColorAdditions::read()
     QFETCH(QString, text);
     QFETCH(QColor, expected);
     QCOMPARE(Brixel::colorFromCalibratedRGBString(text), expected);
-}
-
-void TestColorAdditions::write_data()
-{
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("eight-bit components") << QColor(128, 64, 255, 128) << u"0.50196,0.25098,1.00000,0.50196"_s;
-    QTest::newRow("other specs convert to RGB") << QColor::fromHsvF(0, 1, 1) << u"1.00000,0.00000,0.00000,1.00000"_s;
-    QTest::newRow("invalid is opaque black") << QColor() << u"0.00000,0.00000,0.00000,1.00000"_s;
-}
-
-void TestColorAdditions::write()
-{
-    QFETCH(QColor, color);
-    QFETCH(QString, text);
-    QCOMPARE(Brixel::asCalibratedRGBString(color), text);
 }
 
 void TestColorAdditions::everyStoredColorRoundTrips()

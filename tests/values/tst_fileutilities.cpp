@@ -42,6 +42,7 @@ void TestFileUtilities::uniquePath_data()
     QTest::newRow("taken numbers are skipped") << QStringList{u"a.txt"_s, u"a 1.txt"_s, u"a 3.txt"_s} << u"a.txt"_s
                                                << true << u"a 2.txt"_s;
     QTest::newRow("last extension only") << QStringList{u"a.tar.gz"_s} << u"a.tar.gz"_s << true << u"a.tar 1.gz"_s;
+    QTest::newRow("one-letter extension") << QStringList{u"a.b"_s} << u"a.b"_s << true << u"a 1.b"_s;
     QTest::newRow("leading dot is no extension") << QStringList{u".profile"_s} << u".profile"_s << true
                                                  << u".profile 1"_s;
     QTest::newRow("folder with trailing slash") << QStringList{u"b/"_s} << u"b/"_s << true << u"b 1"_s;

@@ -67,6 +67,7 @@ void TestTimeAndSizeStrings::fileSize_data()
     QTest::newRow("tie rounds to even") << Q_UINT64_C(1280) << u"1.2KB"_s;
     QTest::newRow("largest in kilobytes") << Q_UINT64_C(1048575) << u"1024.0KB"_s;
     QTest::newRow("smallest in megabytes") << Q_UINT64_C(1048576) << u"1.0MB"_s;
+    QTest::newRow("smallest in gigabytes") << Q_UINT64_C(1073741824) << u"1.0GB"_s;
     QTest::newRow("float rounding shows") << Q_UINT64_C(1449551462) << u"1.4GB"_s;
     QTest::newRow("largest size") << std::numeric_limits<quint64>::max() << u"17179869184.0GB"_s;
 }
