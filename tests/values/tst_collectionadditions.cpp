@@ -22,12 +22,30 @@ class TestCollectionAdditions : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void lookUps();
     void insertObjects_data();
     void insertObjects();
     void removeByIdentity();
     void indexSetFromRowNumbers_data();
     void indexSetFromRowNumbers();
 };
+
+void TestCollectionAdditions::lookUps()
+{
+    QCOMPARE(Brixel::objectsAtIndexes(letters, {3, 0}), (QStringList{u"a"_s, u"b"_s}));
+    QCOMPARE(Brixel::objectsAtIndexes(letters, {}), QStringList{});
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::objectsAtIndexes(letters, {0, 4}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::objectsAtIndexes(letters, {-1}));
+
+    QCOMPARE(Brixel::indexesOfObjects(letters, {u"c"_s, u"b"_s}), (ZARNIndexSet{1, 2})); // first equal element
+    QCOMPARE(Brixel::indexesOfObjects(letters, {u"a"_s, u"x"_s}), (ZARNIndexSet{0, ZARNNotFound}));
+
+    QStringList list = letters;
+    Brixel::replaceObject(list, u"b"_s, u"x"_s);
+    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
+    QVERIFY_THROWS_EXCEPTION(std::out_of_range, Brixel::replaceObject(list, u"absent"_s, u"y"_s));
+    QCOMPARE(list, (QStringList{u"a"_s, u"x"_s, u"c"_s, u"b"_s}));
+}
 
 void TestCollectionAdditions::insertObjects_data()
 {
