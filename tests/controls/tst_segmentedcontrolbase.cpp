@@ -15,6 +15,8 @@ private Q_SLOTS:
     void selection_data();
     void selection();
     void selectedSegmentLooksPressed();
+    void changesRepaint_data();
+    void changesRepaint();
 };
 
 void TestSegmentedControlBase::selection_data()
@@ -82,6 +84,36 @@ void TestSegmentedControlBase::selectedSegmentLooksPressed()
     const QRect first = control.rectForSegment(0), second = control.rectForSegment(1);
     QVERIFY(selected.copy(first) != unselected.copy(first));
     QCOMPARE(selected.copy(second), unselected.copy(second));
+}
+
+void TestSegmentedControlBase::changesRepaint_data()
+{
+    using Change = std::function<void(ZARNSegmentedControlBase &)>;
+    QTest::addColumn<Change>("change");
+    QTest::addColumn<bool>("repaints");
+
+    QTest::newRow("another selected segment") << Change([](auto &c) { c.setSelectedSegment(0); }) << true;
+    QTest::newRow("the same selected segment") << Change([](auto &c) { c.setSelectedSegment(1); }) << false;
+    QTest::newRow("an image") << Change([](auto &c) { c.setImage(QImage(4, 4, QImage::Format_ARGB32), 0); }) << true;
+    QTest::newRow("an image for no segment") << Change([](auto &c) { c.setImage(QImage(4, 4, QImage::Format_ARGB32), 5); }) << false;
+}
+
+void TestSegmentedControlBase::changesRepaint()
+{
+    QFETCH(std::function<void(ZARNSegmentedControlBase &)>, change);
+    QFETCH(bool, repaints);
+    ZARNSegmentedControlBase control;
+    control.setSegmentCount(2);
+    control.setSelectedSegment(1);
+    control.resize(100, 20);
+    control.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&control));
+    QCoreApplication::processEvents();
+
+    brixeltest::PaintCounter paints(&control);
+    change(control);
+    QCoreApplication::processEvents();
+    QCOMPARE(paints.count > 0, repaints);
 }
 
 QTEST_MAIN(TestSegmentedControlBase)

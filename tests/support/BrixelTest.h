@@ -2,13 +2,15 @@
 #pragma once
 
 #include <QColor>
+#include <QEvent>
+#include <QObject>
 #include <QImage>
 #include <QPoint>
 #include <QRect>
 
 #include <functional>
 
-class QWidget;
+#include <QWidget>
 
 /**
  * Helpers shared by the widget tests: render what a user would see and look at its pixels.
@@ -27,6 +29,19 @@ bool colorsClose(const QColor &actual, const QColor &expected, int tolerance = 2
 
 /// The colour at \a point, or an invalid colour when the point lies outside the image.
 QColor colorAt(const QImage &image, QPoint point);
+
+/// Counts the paint events a widget receives from the counter's construction on.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
 
 /// The smallest rectangle holding every pixel of \a image whose colour \a matches accepts;
 /// a null rectangle when none does.

@@ -177,6 +177,8 @@ private Q_SLOTS:
     void hiddenMarkerMovesTheClick();
     void textCellsGreyWhileDisabled_data();
     void textCellsGreyWhileDisabled();
+    void scrollBarsFollowTheEnabledState_data();
+    void scrollBarsFollowTheEnabledState();
     void hidingColumns_data();
     void hidingColumns();
     void activationRemakesTheGradient();
@@ -425,6 +427,46 @@ void TestOutlineView::textCellsGreyWhileDisabled()
 
     QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
     QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
+}
+
+void TestOutlineView::scrollBarsFollowTheEnabledState_data()
+{
+    QTest::addColumn<Qt::ScrollBarPolicy>("policy");
+    QTest::addColumn<bool>("barEnabledBefore");
+    QTest::addColumn<QList<Action>>("steps");
+    QTest::addColumn<bool>("barEnabledAfter");
+
+    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
+    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
+    const Action disableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(false); };
+    const Action enableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(true); };
+    const Action enableBar = [](Fixture &f) { f.view.verticalScrollBar()->setEnabled(true); };
+
+    QTest::newRow("enabled bar comes back enabled") << Qt::ScrollBarAsNeeded << true << QList{disable, enable} << true;
+    QTest::newRow("disabled bar stays disabled") << Qt::ScrollBarAsNeeded << false << QList{disable, enable} << false;
+    QTest::newRow("always-off bar is left alone") << Qt::ScrollBarAlwaysOff << true << QList{disable, enable} << true;
+    QTest::newRow("disabling twice saves once") << Qt::ScrollBarAlwaysOn << false << QList{disable, enableBar, disable, enable} << false;
+    QTest::newRow("a disabled ancestor counts") << Qt::ScrollBarAsNeeded << true << QList{disableParent, enableParent} << true;
+    QTest::newRow("bar is off while disabled") << Qt::ScrollBarAsNeeded << true << QList{disable} << false;
+}
+
+void TestOutlineView::scrollBarsFollowTheEnabledState()
+{
+    QFETCH(Qt::ScrollBarPolicy, policy);
+    QFETCH(bool, barEnabledBefore);
+    QFETCH(QList<Action>, steps);
+    QFETCH(bool, barEnabledAfter);
+    QWidget parent;
+    Fixture f;
+    f.view.setParent(&parent);
+    parent.show();
+    f.view.setVerticalScrollBarPolicy(policy);
+    f.view.verticalScrollBar()->setEnabled(barEnabledBefore);
+
+    for (const Action &step : steps)
+        step(f);
+
+    QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
 }
 
 void TestOutlineView::hidingColumns_data()

@@ -20,8 +20,27 @@ namespace {
 
 const QColor outline(200, 0, 0);
 const QColor fill(0, 0, 200);
+const QColor gradientTop(0, 255, 0);
+const QColor gradientBottom(255, 255, 0);
+const QColor custom(255, 0, 255);
 const QColor none(Qt::transparent);
 const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
+
+// Two flat halves, so a pixel tells which end of the image it came from.
+QImage twoToneImage()
+{
+    QImage image(64, 18, QImage::Format_ARGB32_Premultiplied);
+    image.fill(gradientTop);
+    QPainter(&image).fillRect(0, 9, 64, 9, gradientBottom);
+    return image;
+}
+
+QImage solidImage(const QColor &colour)
+{
+    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
+    image.fill(colour);
+    return image;
+}
 
 QImage picture(const std::function<void(QPainter &)> &draw)
 {
@@ -30,6 +49,11 @@ QImage picture(const std::function<void(QPainter &)> &draw)
     QPainter painter(&image);
     draw(painter);
     return image;
+}
+
+QColor mix(const QColor &a, const QColor &b)
+{
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
 }
 
 QColor withAlpha(QColor colour, int alpha)
@@ -67,6 +91,8 @@ private Q_SLOTS:
     void init();
     void shapeRect_data();
     void shapeRect();
+    void textCellFrame_data();
+    void textCellFrame();
     void dropLine_data();
     void dropLine();
     void dropPosition_data();
@@ -102,6 +128,33 @@ void TestRowHighlighting::shapeRect()
     QFETCH(QRectF, drop);
     QCOMPARE(selectionShapeRect(rowRect, customImage), selection);
     QCOMPARE(dropHighlightRect(rowRect, customImage), drop);
+}
+
+void TestRowHighlighting::textCellFrame_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("columnCount");
+    QTest::addColumn<QRect>("frame");
+    QTest::addColumn<QRect>("expected");
+
+    const QRect frame(10, 0, 100, 18);   // inset 18 * 0.25 = 4.5, truncated to 4
+    QTest::newRow("capsule: first column, left") << 1u << 0 << 3 << frame << QRect(14, 0, 96, 18);
+    QTest::newRow("rounded: last column, right") << 2u << 2 << 3 << frame << QRect(10, 0, 96, 18);
+    QTest::newRow("middle column kept") << 1u << 1 << 3 << frame << frame;
+    QTest::newRow("one column: left only") << 1u << 0 << 1 << frame << QRect(14, 0, 96, 18);
+    QTest::newRow("rectangle kept") << 0u << 0 << 3 << frame << frame;
+    QTest::newRow("15 high: inset 3") << 1u << 0 << 2 << QRect(0, 0, 50, 15) << QRect(3, 0, 47, 15);
+}
+
+void TestRowHighlighting::textCellFrame()
+{
+    QFETCH(quint32, style);
+    QFETCH(int, column);
+    QFETCH(int, columnCount);
+    QFETCH(QRect, frame);
+    QFETCH(QRect, expected);
+    QCOMPARE(insetTextCellFrame(frame, ZARNTableView::HighlightStyle(style), column, columnCount), expected);
 }
 
 void TestRowHighlighting::dropLine_data()

@@ -6,6 +6,7 @@
 
 #include <BrixelTest.h>
 
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMimeData>
@@ -233,9 +234,17 @@ void TestTablePainting::emptyMessage()
     const QImage image = table.render();
     const QRect inked = brixeltest::pixelBounds(image.copy(area), [](const QColor &c) { return c != Qt::white; });
     QCOMPARE(!inked.isNull(), drawn && area.height() > 0);
+    QCOMPARE(table.view.emptyAttributedString().has_value(), attributed);
     if (!drawn)
         return;
     const QRect message = inked.translated(area.topLeft());
+    if (!attributed) {   // the default look: the application font, bold, at 15 points
+        QFont font = QGuiApplication::font();
+        font.setPointSizeF(15.0);
+        font.setBold(true);
+        const qreal width = QFontMetricsF(font).tightBoundingRect(text).width();
+        QVERIFY2(qAbs(message.width() - width) <= 3, qPrintable(u"%1 for %2"_s.arg(message.width()).arg(width)));
+    }
     // The plain message is centred; the attributed one carries no alignment and starts at the
     // left of its rectangle, 10 in from the view's edge.
     if (attributed)

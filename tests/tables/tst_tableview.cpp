@@ -7,6 +7,8 @@
 #include <Brixel/ZARNTableViewDelegate.h>
 #include <Brixel/ZARNTextFieldCell.h>
 
+#include "BrixelTest.h"
+
 #include <QDrag>
 #include <QLineEdit>
 #include <QMenu>
@@ -72,18 +74,6 @@ public:
     bool responds = false;
     std::optional<bool> answer;
     QList<int> asked;
-};
-
-/// Counts the paint events \a widget receives from its construction on.
-struct PaintCounter : QObject
-{
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-    int count = 0;
 };
 
 class TestView : public ZARNTableView
@@ -561,7 +551,7 @@ void TestTableView::lookChangesRepaint()
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
     QCoreApplication::processEvents();
-    PaintCounter paints(view.viewport());
+    brixeltest::PaintCounter paints(view.viewport());
     change(view);
     QCoreApplication::processEvents();
     Brixel::ZARNSetSystemVersion(ZARNSystemVersionNewest);

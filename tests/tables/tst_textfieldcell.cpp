@@ -93,6 +93,8 @@ private Q_SLOTS:
     void shortensTextThatDoesNotFit();
     void background_data();
     void background();
+    void sizeHint_data();
+    void sizeHint();
     void editsAndCopies();
 };
 
@@ -360,6 +362,41 @@ void TestTextFieldCell::background()
     QCOMPARE(image.pixelColor(10, 10), expected);
     QCOMPARE(image.pixelColor(59, 29), expected);
     QCOMPARE(image.pixelColor(60, 30), QColor(Qt::darkBlue));
+}
+
+void TestTextFieldCell::sizeHint_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariantMap>("roles");
+    QTest::addColumn<QSize>("expected");
+
+    const QFontMetricsF metrics(font(16));
+    const int height = int(std::ceil(metrics.ascent() + metrics.descent() + metrics.leading()));
+    const auto width = [&](const QString &text, const QFont &font) {
+        return int(std::ceil(QFontMetricsF(font).horizontalAdvance(text) + 4));
+    };
+    QTest::newRow("text and padding") << u"Hamburg"_s << QVariantMap() << QSize(width(u"Hamburg"_s, font(16)), height);
+    QTest::newRow("empty: the padding, one line high") << QString() << QVariantMap() << QSize(4, height);
+    const QFontMetricsF big(font(30));
+    QTest::newRow("the model's font")
+        << u"Hamburg"_s << QVariantMap{{QString::number(Qt::FontRole), font(30)}}
+        << QSize(width(u"Hamburg"_s, font(30)), int(std::ceil(big.ascent() + big.descent() + big.leading())));
+    QTest::newRow("the model's size hint")
+        << u"Hamburg"_s << QVariantMap{{QString::number(Qt::SizeHintRole), QSize(7, 3)}} << QSize(7, 3);
+}
+
+void TestTextFieldCell::sizeHint()
+{
+    QFETCH(QString, text);
+    QFETCH(QVariantMap, roles);
+    QFETCH(QSize, expected);
+
+    QStandardItemModel model;
+    model.appendRow(item(text, roles));
+    ZARNTextFieldCell cell;
+    const QSize size = cell.sizeHint(viewOption({}), model.index(0, 0));
+    QCOMPARE_LE(qAbs(size.width() - expected.width()), 1);
+    QCOMPARE(size.height(), expected.height());
 }
 
 void TestTextFieldCell::editsAndCopies()

@@ -40,6 +40,8 @@ void TestTimeAndSizeStrings::durations_data()
     QTest::newRow("minute and second") << 61.0 << u"1 minute, 1 second"_s << u"00:01:01"_s;
     QTest::newRow("fraction dropped") << 3725.5 << u"1 hour, 2 minutes, 5 seconds"_s << u"01:02:05"_s;
     QTest::newRow("hours and seconds, two digits") << 36010.0 << u"10 hours, 10 seconds"_s << u"10:00:10"_s;
+    QTest::newRow("one hour and seconds") << 3605.0 << u"1 hour, 5 seconds"_s << u"01:00:05"_s;
+    QTest::newRow("exactly a day") << 86400.0 << u"1 day"_s << u"24:00:00"_s;
     QTest::newRow("a day hides seconds") << 90061.0 << u"1 day, 1 hour, 1 minute"_s << u"25:01:01"_s;
     QTest::newRow("day and minute, hours beyond a day") << 86460.0 << u"1 day, 1 minute"_s << u"24:01:00"_s;
     QTest::newRow("seconds from the fraction too") << 59.99 << u"59 seconds"_s << u"00:00:59"_s;
