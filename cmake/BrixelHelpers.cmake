@@ -14,9 +14,26 @@ set(BRIXEL_INSTALL_FORWARDING_DIR ${CMAKE_BINARY_DIR}/install-include)
 # here and the layers it uses, so a file that includes what its layer may not use does not
 # compile. Its objects go into the one Brixel shared library; its public headers are
 # installed and listed in the umbrella header <Brixel/Brixel<Layer>>.
+# Stops the configuration when a file of <layer> includes a header of another folder than the
+# layers it uses ("../tables/X.h" from drawing/, say): the folders' direction is part of the
+# build, checked whenever CMake configures.
+function(brixel_check_layer_includes layer uses)
+    string(TOLOWER "${uses}" allowed)
+    foreach(file IN LISTS ARGN)
+        file(STRINGS ${file} includes REGEX "^#include \"\\.\\./[a-z]+/")
+        foreach(line IN LISTS includes)
+            string(REGEX REPLACE "^#include \"\\.\\./([a-z]+)/.*" "\\1" folder "${line}")
+            if(NOT folder IN_LIST allowed)
+                message(FATAL_ERROR "${file} of the ${layer} layer includes ${folder}/, which ${layer} does not use")
+            endif()
+        endforeach()
+    endforeach()
+endfunction()
+
 function(brixel_add_layer layer)
     cmake_parse_arguments(ARG "" "" "MODULES;USES;HEADERS;SOURCES" ${ARGN})
     set(target Brixel${layer})
+    brixel_check_layer_includes(${layer} "${ARG_USES}" ${ARG_HEADERS} ${ARG_SOURCES})
     add_library(${target} OBJECT)
     set_target_properties(${target} PROPERTIES
         CXX_VISIBILITY_PRESET hidden
