@@ -8,12 +8,6 @@
 set(BRIXEL_FORWARDING_INCLUDE_DIR ${CMAKE_BINARY_DIR}/include)
 set(BRIXEL_INSTALL_FORWARDING_DIR ${CMAKE_BINARY_DIR}/install-include)
 
-# brixel_add_layer(<Layer> MODULES <Qt modules> [USES <layers above>]
-#                  HEADERS <public headers> SOURCES <sources and _p.h headers>)
-# Builds one folder as the object library Brixel<Layer>, which sees only the Qt modules named
-# here and the layers it uses, so a file that includes what its layer may not use does not
-# compile. Its objects go into the one Brixel shared library; its public headers are
-# installed and listed in the umbrella header <Brixel/Brixel<Layer>>.
 # Stops the configuration when a file of <layer> includes a header of another folder than the
 # layers it uses ("../tables/X.h" from drawing/, say): the folders' direction is part of the
 # build, checked whenever CMake configures.
@@ -30,6 +24,12 @@ function(brixel_check_layer_includes layer uses)
     endforeach()
 endfunction()
 
+# brixel_add_layer(<Layer> MODULES <Qt modules> [USES <layers above>]
+#                  HEADERS <public headers> SOURCES <sources and _p.h headers>)
+# Builds one folder as the object library Brixel<Layer>, which sees only the Qt modules named
+# here and the layers it uses, so a file that includes what its layer may not use does not
+# compile. Its objects go into the one Brixel shared library; its public headers are
+# installed and listed in the umbrella header <Brixel/Brixel<Layer>>.
 function(brixel_add_layer layer)
     cmake_parse_arguments(ARG "" "" "MODULES;USES;HEADERS;SOURCES" ${ARGN})
     set(target Brixel${layer})

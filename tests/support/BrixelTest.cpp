@@ -2,6 +2,7 @@
 #include "BrixelTest.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QFont>
 #include <QLayout>
 #include <QPainter>
@@ -40,6 +41,17 @@ QColor colorAt(const QImage &image, QPoint point)
     if (!image.valid(point))
         return {};
     return image.pixelColor(point);
+}
+
+PaintCounter::PaintCounter(QWidget *widget)
+{
+    widget->installEventFilter(this);
+}
+
+bool PaintCounter::eventFilter(QObject *, QEvent *event)
+{
+    count += event->type() == QEvent::Paint;
+    return false;
 }
 
 QRect pixelBounds(const QImage &image, const std::function<bool(const QColor &)> &matches)

@@ -2,15 +2,14 @@
 #pragma once
 
 #include <QColor>
-#include <QEvent>
-#include <QObject>
 #include <QImage>
+#include <QObject>
 #include <QPoint>
 #include <QRect>
 
 #include <functional>
 
-#include <QWidget>
+class QWidget;
 
 /**
  * Helpers shared by the widget tests: render what a user would see and look at its pixels.
@@ -34,12 +33,8 @@ QColor colorAt(const QImage &image, QPoint point);
 class PaintCounter : public QObject
 {
 public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
+    explicit PaintCounter(QWidget *widget);
+    bool eventFilter(QObject *watched, QEvent *event) override;
     int count = 0;
 };
 
