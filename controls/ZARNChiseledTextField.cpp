@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNChiseledTextField.h"
 
+#include "ActivityFollower_p.h"
 #include "AttributedTextDocument_p.h"
 
 #include "../platform/ZARNAttributedString.h"
@@ -8,11 +9,8 @@
 #include "../values/NSMutableAttributedString_Category.h"
 #include "../values/ZARNNSColorAdditions.h"
 
-#include <QApplication>
 #include <QDataStream>
-#include <QDialog>
 #include <QPainter>
-#include <QSet>
 #include <QStyle>
 #include <QtMath>
 
@@ -142,13 +140,6 @@ QImage textLayer(const QWidget &field, const QLabel &label, const QTextDocument 
     return layer;
 }
 
-// Exactly a plain QWidget or QDialog: the windows whose own activation a field follows.
-bool isPlainWindow(const QWidget *window)
-{
-    const QMetaObject *type = window->metaObject();
-    return type == &QWidget::staticMetaObject || type == &QDialog::staticMetaObject;
-}
-
 } // namespace
 
 class ZARNChiseledTextFieldPrivate
@@ -185,8 +176,7 @@ public:
     mutable QImage ownLayer;
     mutable QImage shadowLayer;
 
-    QSet<const QWidget *> followedWindows;
-    bool followsApplication = false;
+    BrixelPrivate::ActivityFollower *activity = nullptr;
 };
 
 const QImage &ZARNChiseledTextFieldPrivate::layer(QImage &cache, const ZARNChiseledTextField &field,
@@ -235,12 +225,13 @@ ZARNChiseledTextField::ZARNChiseledTextField(Construction construction, QWidget 
     setAutoFillBackground(false);
     setFrameShape(QFrame::NoFrame);
     QLabel::setFont(unsmoothed(font()));
+    d->activity = new BrixelPrivate::ActivityFollower(this, [this] { activate(); }, [this] { deactivate(); });
     if (construction == Construction::Engraved) {
         applyEnabledState();
         initShadow();
         activate();
     }
-    followActivity();
+    d->activity->follow();
 }
 
 ZARNChiseledTextField::~ZARNChiseledTextField() = default;
@@ -449,14 +440,14 @@ QSize ZARNChiseledTextField::minimumSizeHint() const
 void ZARNChiseledTextField::activate()
 {
     if (isEnabled())
-        applyColors(d->activeColor, d->shadowActiveColor);
+        showColors(d->activeColor, d->shadowActiveColor);
     d->active = true;
 }
 
 void ZARNChiseledTextField::deactivate()
 {
     if (isEnabled())
-        applyColors(d->inactiveColor, d->shadowInactiveColor);
+        showColors(d->inactiveColor, d->shadowInactiveColor);
     d->active = false;
 }
 
@@ -464,52 +455,18 @@ void ZARNChiseledTextField::applyEnabledState()
 {
     // Enabling shows the active colours whatever isActive() says, until activity next changes.
     if (isEnabled())
-        applyColors(d->activeColor, d->shadowActiveColor);
+        showColors(d->activeColor, d->shadowActiveColor);
     else
-        applyColors(d->disabledColor, d->shadowInactiveColor);
+        showColors(d->disabledColor, d->shadowInactiveColor);
 }
 
-void ZARNChiseledTextField::applyColors(const QColor &text, const QColor &shadowText)
+void ZARNChiseledTextField::showColors(const QColor &text, const QColor &shadowText)
 {
     setTextColor(*this, text);
     if (d->shadow)
         setTextColor(*d->shadow, shadowText);
     d->contentChanged(*this);
     update();
-}
-
-void ZARNChiseledTextField::followActivity()
-{
-    if (Brixel::ZARNSystemVersion() <= 0x101F)
-        return;
-    // Earlier choices stay in force: a field that changes windows follows all of them, which
-    // does no harm since activating or deactivating twice changes nothing.
-    const QWidget *window = this->window();
-    if (window != this && isPlainWindow(window)) {
-        if (!d->followedWindows.contains(window)) {
-            d->followedWindows.insert(window);
-            const_cast<QWidget *>(window)->installEventFilter(this);
-            connect(window, &QObject::destroyed, this, [this, window] { d->followedWindows.remove(window); });
-        }
-        return;
-    }
-    if (d->followsApplication)
-        return;
-    d->followsApplication = true;
-    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-        state == Qt::ApplicationActive ? activate() : deactivate();
-    });
-}
-
-bool ZARNChiseledTextField::eventFilter(QObject *watched, QEvent *event)
-{
-    if (d->followedWindows.contains(static_cast<QWidget *>(watched))) {
-        if (event->type() == QEvent::WindowActivate)
-            activate();
-        else if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked)
-            deactivate();
-    }
-    return QLabel::eventFilter(watched, event);
 }
 
 void ZARNChiseledTextField::paintEvent(QPaintEvent *)
@@ -535,7 +492,7 @@ void ZARNChiseledTextField::changeEvent(QEvent *event)
         d->contentChanged(*this);
         break;
     case QEvent::ParentChange:
-        followActivity();
+        d->activity->follow();
         break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:

@@ -131,6 +131,12 @@ public:
     void resetDisabledColor();
     /// @}
 
+    /**
+     * Draws the field's own text in \a text and the light copy in \a shadowText from now on,
+     * until the next activate(), deactivate() or change of the enabled state, without changing
+     * the five colours. Controls that draw a field in looks of their own use this.
+     */
+    void showColors(const QColor &text, const QColor &shadowText);
     /// The colour the field's own text is drawn in now.
     QColor textColor() const;
     /// The colour the light copy is drawn in now (an invalid colour while there is no copy).
@@ -180,12 +186,9 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void followActivity();
     void applyEnabledState();
-    void applyColors(const QColor &text, const QColor &shadowText);
 
     friend BRIXEL_EXPORT QDataStream &operator<<(QDataStream &stream, const ZARNChiseledTextField &field);
     friend BRIXEL_EXPORT QDataStream &operator>>(QDataStream &stream, ZARNChiseledTextField &field);
