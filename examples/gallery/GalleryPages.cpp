@@ -26,7 +26,7 @@ QList<GalleryPage> galleryPages()
         {QObject::tr("Values"), createValuesPage},
         {QObject::tr("Drawing"), createDrawingPage},
         {QObject::tr("Tables"), createTablesPage},
-        placeholder(QObject::tr("Controls")),
+        {QObject::tr("Controls"), createControlsPage},
         placeholder(QObject::tr("Windows")),
         placeholder(QObject::tr("Dates")),
         placeholder(QObject::tr("Speech")),

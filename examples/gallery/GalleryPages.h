@@ -19,6 +19,7 @@ struct GalleryPage
 QWidget *createValuesPage();
 QWidget *createDrawingPage();
 QWidget *createTablesPage();
+QWidget *createControlsPage();
 
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();
