@@ -8,6 +8,8 @@
 /**
  * A push button whose shortcut fires when its keys are pressed and never when they are
  * released: a key release that matches the shortcut is consumed without pressing the button.
+ * So a button whose shortcut is Space, pressed through it, clicks once when its short pressed
+ * look ends, not a second time when the key comes up.
  *
  * \code
  * auto *save = new ZARNButton(tr("Save"), panel);
