@@ -117,9 +117,25 @@ QPointF documentOrigin(const QRect &rect, qreal height, Qt::Alignment alignment)
     return {qreal(rect.left()), y};
 }
 
-// \a label's text (or \a document) drawn in \a rect on a transparent image of \a field's
-// size. Text without font smoothing is written into the image with its colour's alpha rather
-// than blended, so it is drawn on a layer of its own and the layer is blended into the field.
+// Draws \a label's text (or \a document) in \a rect, as \a field's style draws a label's text.
+void drawLabelText(QPainter &painter, const QWidget &field, const QLabel &label, const QTextDocument *document,
+                   const QRect &rect)
+{
+    if (document) {
+        BrixelPrivate::drawTextDocument(painter, *document,
+                                        documentOrigin(rect, document->size().height(), label.alignment()));
+        return;
+    }
+    int flags = QStyle::visualAlignment(field.layoutDirection(), label.alignment());
+    if (label.wordWrap())
+        flags |= Qt::TextWordWrap;
+    painter.setFont(label.font());
+    field.style()->drawItemText(&painter, rect, flags, label.palette(), true, label.text(), QPalette::WindowText);
+}
+
+// \a label's text drawn on a transparent image of \a field's size. Text without font
+// smoothing is written into its target with its colour's alpha rather than blended, so text
+// in a translucent colour is drawn on a layer of its own, which is then blended into the field.
 QImage textLayer(const QWidget &field, const QLabel &label, const QTextDocument *document, const QRect &rect)
 {
     const qreal ratio = field.devicePixelRatioF();
@@ -127,16 +143,7 @@ QImage textLayer(const QWidget &field, const QLabel &label, const QTextDocument 
     layer.setDevicePixelRatio(ratio);
     layer.fill(Qt::transparent);
     QPainter painter(&layer);
-    if (document) {
-        BrixelPrivate::drawTextDocument(painter, *document,
-                                        documentOrigin(rect, document->size().height(), label.alignment()));
-        return layer;
-    }
-    int flags = QStyle::visualAlignment(field.layoutDirection(), label.alignment());
-    if (label.wordWrap())
-        flags |= Qt::TextWordWrap;
-    painter.setFont(label.font());
-    field.style()->drawItemText(&painter, rect, flags, label.palette(), true, label.text(), QPalette::WindowText);
+    drawLabelText(painter, field, label, document, rect);
     return layer;
 }
 
@@ -476,7 +483,11 @@ void ZARNChiseledTextField::paintEvent(QPaintEvent *)
         // The light copy, one pixel below the field's own text.
         painter.drawImage(QPoint(0, 1), d->layer(d->shadowLayer, *this, *d->shadow, d->shadowDocument.get()));
     }
-    painter.drawImage(QPoint(0, 0), d->layer(d->ownLayer, *this, *this, d->document.get()));
+    // Opaque plain text needs no layer: it is drawn straight over the copy.
+    if (!d->document && textColor().alpha() == 255)
+        drawLabelText(painter, *this, *this, nullptr, textRect(*this));
+    else
+        painter.drawImage(QPoint(0, 0), d->layer(d->ownLayer, *this, *this, d->document.get()));
 }
 
 void ZARNChiseledTextField::changeEvent(QEvent *event)

@@ -91,19 +91,22 @@ void TestChiseledTextField::engraving_data()
     QTest::addColumn<quint32>("version");
     QTest::addColumn<Qt::Alignment>("alignment");
     QTest::addColumn<bool>("attributed");
+    QTest::addColumn<bool>("active");
     QTest::addColumn<QColor>("text");
     QTest::addColumn<QColor>("shadow");
 
     const QColor newText = greyOverWhite(0.149, 1.0);
     const QColor newShadow = greyOverWhite(0.8078, 0.9);
-    QTest::newRow("new look") << 0x1050u << Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter) << false << newText
-                              << newShadow;
-    QTest::newRow("classic look") << 0x104Fu << Qt::Alignment(Qt::AlignLeft | Qt::AlignVCenter) << false
-                                  << greyOverWhite(0.1, 1.0) << greyOverWhite(0.96, 0.9);
-    QTest::newRow("right aligned") << 0x1050u << Qt::Alignment(Qt::AlignRight | Qt::AlignBottom) << false << newText
-                                   << newShadow;
-    QTest::newRow("attributed") << 0x1050u << Qt::Alignment(Qt::AlignHCenter | Qt::AlignTop) << true << newText
-                                << newShadow;
+    const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
+    QTest::newRow("new look") << 0x1050u << left << false << true << newText << newShadow;
+    QTest::newRow("classic look") << 0x104Fu << left << false << true << greyOverWhite(0.1, 1.0)
+                                  << greyOverWhite(0.96, 0.9);
+    QTest::newRow("inactive, translucent text") << 0x1050u << left << false << false << greyOverWhite(0.3, 0.9)
+                                                << greyOverWhite(0.8078, 0.7);
+    QTest::newRow("right aligned") << 0x1050u << Qt::Alignment(Qt::AlignRight | Qt::AlignBottom) << false << true
+                                   << newText << newShadow;
+    QTest::newRow("attributed") << 0x1050u << Qt::Alignment(Qt::AlignHCenter | Qt::AlignTop) << true << true
+                                << newText << newShadow;
 }
 
 void TestChiseledTextField::engraving()
@@ -111,6 +114,7 @@ void TestChiseledTextField::engraving()
     QFETCH(quint32, version);
     QFETCH(Qt::Alignment, alignment);
     QFETCH(bool, attributed);
+    QFETCH(bool, active);
     QFETCH(QColor, text);
     QFETCH(QColor, shadow);
     Brixel::ZARNSetSystemVersion(version);
@@ -123,6 +127,8 @@ void TestChiseledTextField::engraving()
         field.setAttributedStringValue(ZARNAttributedString(u"Library"_s, {{ZARNFontAttributeName, field.font()}}));
     else
         field.setText(u"Library"_s);
+    if (!active)
+        field.deactivate();
     const QImage image = renderOverWhite(field);
 
     // Font smoothing is off: every glyph pixel has exactly one of the two colours.
