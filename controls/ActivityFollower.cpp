@@ -20,8 +20,7 @@ bool isPlainWindow(const QWidget *window)
 } // namespace
 
 ActivityFollower::ActivityFollower(QWidget *control, std::function<void()> activate, std::function<void()> deactivate)
-    : QObject(control)
-    , m_control(control)
+    : m_control(control)
     , m_activate(std::move(activate))
     , m_deactivate(std::move(deactivate))
 {

@@ -26,7 +26,8 @@ namespace BrixelPrivate {
 class BRIXEL_AUTOTEST_EXPORT ActivityFollower : public QObject
 {
 public:
-    /// Follows on behalf of \a control, which owns the follower.
+    /// Follows on behalf of \a control, which must outlive the follower (it keeps it as a
+    /// member, so no signal reaches a control that is being destroyed).
     ActivityFollower(QWidget *control, std::function<void()> activate, std::function<void()> deactivate);
 
     void follow();

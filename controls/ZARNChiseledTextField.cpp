@@ -183,7 +183,7 @@ public:
     mutable QImage ownLayer;
     mutable QImage shadowLayer;
 
-    BrixelPrivate::ActivityFollower *activity = nullptr;
+    std::unique_ptr<BrixelPrivate::ActivityFollower> activity;
 };
 
 const QImage &ZARNChiseledTextFieldPrivate::layer(QImage &cache, const ZARNChiseledTextField &field,
@@ -232,7 +232,8 @@ ZARNChiseledTextField::ZARNChiseledTextField(Construction construction, QWidget 
     setAutoFillBackground(false);
     setFrameShape(QFrame::NoFrame);
     QLabel::setFont(unsmoothed(font()));
-    d->activity = new BrixelPrivate::ActivityFollower(this, [this] { activate(); }, [this] { deactivate(); });
+    d->activity = std::make_unique<BrixelPrivate::ActivityFollower>(this, [this] { activate(); },
+                                                                  [this] { deactivate(); });
     if (construction == Construction::Engraved) {
         applyEnabledState();
         initShadow();

@@ -151,11 +151,6 @@ public:
     /// replacing any earlier copy.
     void initShadow();
 
-    /// Sets plain text (never interpreted as rich text) on the copy, then on the field.
-    void setText(const QString &text);
-    /// Shows \a value as text, on the copy and then on the field.
-    void setNum(int value);
-    void setNum(double value);
     void setAlignment(Qt::Alignment alignment);
     /// Sets \a font without font smoothing, on the copy and then on the field.
     void setFont(const QFont &font);
@@ -177,6 +172,11 @@ public:
     QSize minimumSizeHint() const override;
 
 public Q_SLOTS:
+    /// Sets plain text (never interpreted as rich text) on the copy, then on the field.
+    void setText(const QString &text);
+    /// Shows \a value as text, on the copy and then on the field.
+    void setNum(int value);
+    void setNum(double value);
     /// Shows the active colours if the field is enabled, and marks it active in any case.
     void activate();
     /// Shows the inactive colours if the field is enabled, and marks it inactive in any case.

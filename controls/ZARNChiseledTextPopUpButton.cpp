@@ -10,6 +10,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -87,7 +88,7 @@ public:
     bool sizeHeightToFit = false;
     int frameAnchorMask = 1;
     bool active = true;
-    BrixelPrivate::ActivityFollower *activity = nullptr;
+    std::unique_ptr<BrixelPrivate::ActivityFollower> activity;
 };
 
 ZARNChiseledTextPopUpButton::ZARNChiseledTextPopUpButton(QWidget *parent)
@@ -116,7 +117,8 @@ void ZARNChiseledTextPopUpButton::init(const QString &title)
     d->titleField->setAlignment(Qt::AlignCenter);
     setFlat(true);
     setFocusPolicy(Qt::NoFocus);
-    d->activity = new BrixelPrivate::ActivityFollower(this, [this] { activate(); }, [this] { deactivate(); });
+    d->activity = std::make_unique<BrixelPrivate::ActivityFollower>(this, [this] { activate(); },
+                                                                  [this] { deactivate(); });
     d->activity->follow();
     setTitle(title);
 }
@@ -332,8 +334,10 @@ void ZARNChiseledTextPopUpButton::leaveEvent(QEvent *event)
 void ZARNChiseledTextPopUpButton::mousePressEvent(QMouseEvent *event)
 {
     d->mouseIsDown = true;
+    const QPointer<ZARNChiseledTextPopUpButton> alive(this);
     ZARNPopUpButton::mousePressEvent(event);
-    d->mouseIsDown = false;
+    if (alive)
+        d->mouseIsDown = false;
 }
 
 void ZARNChiseledTextPopUpButton::changeEvent(QEvent *event)

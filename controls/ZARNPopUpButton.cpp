@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
 
 #include <algorithm>
 #include <stdexcept>
@@ -135,9 +136,11 @@ void ZARNPopUpButton::mousePressEvent(QMouseEvent *event)
     if (d->delegate)
         d->delegate->popUpButtonWillDisplayMenu(this, d->menu.get());
     setDown(true);
-    // The bottom-left corner, four pixels lower.
+    // The bottom-left corner, four pixels lower. An item's action may delete the button.
+    const QPointer<ZARNPopUpButton> alive(this);
     d->menu->exec(mapToGlobal(QPoint(0, height() + 4)));
-    setDown(false);
+    if (alive)
+        setDown(false);
 }
 
 void ZARNPopUpButton::contextMenuEvent(QContextMenuEvent *event)
