@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/ZARNSegmentedCell.h>
+#include <Brixel/ZARNSegmentedControl.h>
+#include <Brixel/ZARNSegmentedControlButton.h>
+
+#include "BrixelTest.h"
+
+#include <QPainter>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The columns of \a image's row \a y that hold the separators' translucent black over white.
+QList<int> separatorColumns(const QImage &image, int y)
+{
+    QList<int> columns;
+    const QColor separator = QColor::fromRgbF(0.67f, 0.67f, 0.67f);
+    for (int x = 0; x < image.width(); ++x) {
+        if (brixeltest::colorsClose(image.pixelColor(x, y), separator, 3))
+            columns.append(x);
+    }
+    return columns;
+}
+
+// Records the separators as the default cell does, but draws the segments elsewhere, so that
+// only the separators show.
+class BlankSegments : public ZARNSegmentedCell
+{
+public:
+    void drawSegment(QPainter &, int segment, const QRect &frame, ZARNSegmentedControl &control) const override
+    {
+        QImage scratch(frame.size(), QImage::Format_ARGB32_Premultiplied);
+        QPainter elsewhere(&scratch);
+        ZARNSegmentedCell::drawSegment(elsewhere, segment, frame, control);
+    }
+};
+
+} // namespace
+
+class TestSegmentedControls : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void separators_data();
+    void separators();
+    void separatorTable();
+    void imageButton_data();
+    void imageButton();
+};
+
+void TestSegmentedControls::separators_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("selected");
+    QTest::addColumn<QList<int>>("columns");
+
+    // 100 pixels in four segments of 25, or three of 33, 33 and 34.
+    QTest::newRow("three, middle selected: none") << 3 << 1 << QList<int>{};
+    QTest::newRow("four, first selected: after 1 and 2") << 4 << 0 << QList<int>{50, 75};
+    QTest::newRow("four, last selected") << 4 << 3 << QList<int>{25, 50};
+    QTest::newRow("none selected: all but the last") << 3 << -1 << QList<int>{33, 66};
+}
+
+void TestSegmentedControls::separators()
+{
+    QFETCH(int, count);
+    QFETCH(int, selected);
+    QFETCH(QList<int>, columns);
+    ZARNSegmentedControl control;
+    control.setCell(std::make_unique<BlankSegments>());
+    control.setSegmentCount(count);
+    control.setSelectedSegment(selected);
+    control.resize(100, 20);
+    control.show();
+    control.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&control));
+
+    QImage image(control.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    control.render(&image, {}, {}, QWidget::DrawChildren);
+    QCOMPARE(separatorColumns(image, 10), columns);
+    QCOMPARE(ZARNSegmentedControl::separatorsForSegmentedControl(&control).size(), columns.size());
+
+    // In a window that is not active the separators are recorded but not drawn.
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&other));
+    image.fill(Qt::white);
+    control.render(&image, {}, {}, QWidget::DrawChildren);
+    QCOMPARE(separatorColumns(image, 10), QList<int>{});
+}
+
+void TestSegmentedControls::separatorTable()
+{
+    const ZARNSegmentedControl control;
+    // An earlier control at the same address may have left its separators; a repaint or this
+    // call empties them.
+    ZARNSegmentedControl::removeSeparatorsForSegmentedControl(&control);
+    ZARNSegmentedControl::addSeparator(u"{{10, 0}, {1, 20}}"_s, &control);
+    ZARNSegmentedControl::addSeparator(QString(), &control);
+    ZARNSegmentedControl::addSeparator(u"{{20, 0}, {1, 20}}"_s, nullptr);
+    QCOMPARE(ZARNSegmentedControl::separatorsForSegmentedControl(&control), QStringList{u"{{10, 0}, {1, 20}}"_s});
+    ZARNSegmentedControl::removeSeparatorsForSegmentedControl(&control);
+    QVERIFY(ZARNSegmentedControl::separatorsForSegmentedControl(&control).isEmpty());
+    QVERIFY(ZARNSegmentedControl::separatorsForSegmentedControl(nullptr).isEmpty());
+}
+
+void TestSegmentedControls::imageButton_data()
+{
+    QTest::addColumn<QSize>("bounds");
+    QTest::addColumn<QSize>("imageSize");
+    QTest::addColumn<QPoint>("origin");
+
+    QTest::newRow("45 x 23") << QSize(45, 23) << QSize(20, 20) << QPoint(12, 1);
+    QTest::newRow("even") << QSize(40, 24) << QSize(20, 20) << QPoint(10, 2);
+    QTest::newRow("larger than the bounds") << QSize(10, 10) << QSize(15, 13) << QPoint(-2, -1);
+}
+
+void TestSegmentedControls::imageButton()
+{
+    QFETCH(QSize, bounds);
+    QFETCH(QSize, imageSize);
+    QFETCH(QPoint, origin);
+    QCOMPARE(ZARNSegmentedControlButton::imageOrigin(bounds, imageSize), origin);
+
+    ZARNSegmentedControlButton button;
+    QImage red(imageSize, QImage::Format_ARGB32_Premultiplied);
+    red.fill(Qt::red);
+    button.setImage(red);
+    button.resize(bounds);
+    const QImage shown = brixeltest::renderWidget(button);
+    // y counts from the bottom: the image's top row is bounds height - y - image height.
+    const QRect expected = QRect(QPoint(origin.x(), bounds.height() - origin.y() - imageSize.height()), imageSize)
+                               .intersected(QRect(QPoint(0, 0), bounds));
+    QCOMPARE(brixeltest::pixelBounds(shown, [](const QColor &c) { return c == QColor(Qt::red); }), expected);
+}
+
+QTEST_MAIN(TestSegmentedControls)
+#include "tst_segmentedcontrols.moc"
