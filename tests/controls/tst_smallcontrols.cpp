@@ -1,8 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/BXSplitView.h>
 #include <Brixel/ZARNButton.h>
+#include <Brixel/ZARNTextAttachmentCell.h>
 
+#include "BrixelTest.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
 #include <QSignalSpy>
+#include <QTextCursor>
+#include <QTextDocument>
 #include <QTest>
 
 #include <cmath>
@@ -12,6 +19,8 @@ class TestSmallControls : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void shortcutFiresOnPressOnly();
+    void attachmentOffset_data();
+    void attachmentOffset();
     void dividerThickness_data();
     void dividerThickness();
 };
@@ -36,6 +45,50 @@ void TestSmallControls::shortcutFiresOnPressOnly()
     QTRY_COMPARE(clicked.size(), 1);
     QTest::qWait(150);
     QCOMPARE(clicked.size(), 1);
+}
+
+void TestSmallControls::attachmentOffset_data()
+{
+    QTest::addColumn<QPointF>("offset");
+    QTest::addColumn<bool>("centre");
+    QTest::addColumn<QPoint>("moved");
+
+    QTest::newRow("on the baseline") << QPointF() << false << QPoint(0, 0);
+    QTest::newRow("three below") << QPointF(0, -3) << false << QPoint(0, 3);
+    QTest::newRow("right and up") << QPointF(2, 4) << false << QPoint(2, -4);
+    QTest::newRow("centre flag switches the offset off") << QPointF(0, -3) << true << QPoint(0, 0);
+}
+
+void TestSmallControls::attachmentOffset()
+{
+    QFETCH(QPointF, offset);
+    QFETCH(bool, centre);
+    QFETCH(QPoint, moved);
+    brixeltest::useTestFont();
+    QImage red(8, 8, QImage::Format_ARGB32_Premultiplied);
+    red.fill(Qt::red);
+    QTextDocument document;
+    auto *cell = new ZARNTextAttachmentCell(red, &document);
+    cell->zarnSetCellBaselineOffset(offset);
+    cell->zarnSetCenterCellBaselineOffset(centre);
+    QCOMPARE(cell->cellBaselineOffset(), centre ? QPointF() : offset);
+    QTextCursor cursor(&document);
+    cursor.insertText(QStringLiteral("Ab "));
+    cell->insertInto(cursor);
+    cursor.insertText(QStringLiteral(" cd"));
+
+    const auto redBounds = [&](const QPointF &at) {
+        cell->zarnSetCellBaselineOffset(at);
+        QImage image(120, 40, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        document.drawContents(&painter);
+        painter.end();
+        return brixeltest::pixelBounds(image, [](const QColor &c) { return c == QColor(Qt::red); });
+    };
+    const QRect onBaseline = redBounds(QPointF());
+    QCOMPARE(onBaseline.size(), QSize(8, 8));
+    QCOMPARE(redBounds(offset), onBaseline.translated(moved));
 }
 
 void TestSmallControls::dividerThickness_data()
