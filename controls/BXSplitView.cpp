@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "BXSplitView.h"
 
+#include <QEvent>
+
 #include <cmath>
 
 class BXSplitViewPrivate
@@ -32,4 +34,12 @@ void BXSplitView::setDividerThickness(float thickness)
 {
     d->thickness = std::isnan(thickness) || thickness < 0.0f ? 0.0f : thickness;
     setHandleWidth(int(std::lround(std::min(d->thickness, 1.0e6f))));
+}
+
+bool BXSplitView::event(QEvent *event)
+{
+    // Polishing comes after a form has set its properties and before the first show.
+    if (event->type() == QEvent::Polish)
+        setDividerThickness(d->thickness);
+    return QSplitter::event(event);
 }

@@ -18,7 +18,9 @@
  * \endcode
  *
  * The thickness is QSplitter's handle width, so the splitter lays out and draws its handles at
- * that width; a fractional thickness is rounded to whole pixels for them.
+ * that width; a fractional thickness is rounded to whole pixels for them. A handle width set
+ * through QSplitter, as a form file sets it, is replaced by the divider thickness before the
+ * splitter is first shown.
  */
 class BRIXEL_EXPORT BXSplitView : public QSplitter
 {
@@ -32,6 +34,9 @@ public:
     float dividerThickness() const;
     /// Makes the dividers \a thickness pixels thick; a value that is NaN or below 0 means 0.
     void setDividerThickness(float thickness);
+
+protected:
+    bool event(QEvent *event) override;
 
 private:
     std::unique_ptr<class BXSplitViewPrivate> const d;

@@ -58,13 +58,16 @@ extern BRIXEL_EXPORT QColor ZARNChiseledTextField_DisabledColor;
  * attributed text only; a pixmap, movie or rich text given through QLabel is not drawn. Text, numbers,
  * alignment, font and size set through this class reach the light copy too; it has no origin
  * of its own, since it is always drawn in the field's own coordinates. Call these setters on
- * the ZARNChiseledTextField itself: QLabel's own versions are not virtual, so calling them
- * through a QLabel pointer leaves the copy behind (font changes are the exception: they reach
- * the copy however they are made).
+ * the ZARNChiseledTextField itself or through its properties: QLabel's own setters are not
+ * virtual, so calling them through a QLabel pointer leaves the copy behind (font changes are
+ * the exception: they reach the copy however they are made).
  */
 class BRIXEL_EXPORT ZARNChiseledTextField : public QLabel
 {
     Q_OBJECT
+    // The text and alignment reach the light copy also when set as properties (as forms do).
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
     Q_PROPERTY(QColor activeColor READ activeColor WRITE setActiveColor RESET resetActiveColor)
     Q_PROPERTY(QColor shadowActiveColor READ shadowActiveColor WRITE setShadowActiveColor RESET resetShadowActiveColor)
     Q_PROPERTY(QColor inactiveColor READ inactiveColor WRITE setInactiveColor RESET resetInactiveColor)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "ZARNNSNibAdditions.h"
 
+#include "FormLoader_p.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -8,7 +10,6 @@
 #include <QHash>
 #include <QMutex>
 #include <QPointer>
-#include <QUiLoader>
 #include <QWidget>
 
 namespace {
@@ -60,7 +61,7 @@ bool instantiate(QIODevice *nib, const QDir &formFolder, QObject *owner, QList<Q
 {
     if (!nib || !qobject_cast<QApplication *>(QCoreApplication::instance()))
         return false;
-    QUiLoader loader;
+    BrixelPrivate::FormLoader loader;
     loader.setWorkingDirectory(formFolder);
     QWidget *form = loader.load(nib);
     if (!form)

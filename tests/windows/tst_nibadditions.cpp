@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include <Brixel/BXSplitView.h>
+#include <Brixel/ZARNChiseledTextField.h>
 #include <Brixel/ZARNNSNibAdditions.h>
 
 #include <QApplication>
@@ -33,6 +35,7 @@ class TestNibAdditions : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void libraryWidgetsInForms();
     void rememberedObjectsLiveUntilForgotten();
     void instantiate_data();
     void instantiate();
@@ -146,6 +149,24 @@ void TestNibAdditions::failedLoadCreatesNothing()
     QCOMPARE(objects, QList<QObject *>{&owner});
     QVERIFY(Brixel::rememberedTopLevelObjectsForOwner(&owner).isEmpty());
     QVERIFY(loadedForms().isEmpty());
+}
+
+void TestNibAdditions::libraryWidgetsInForms()
+{
+    QList<QObject *> objects;
+    QVERIFY(Brixel::instantiateNibWithOwner(QFINDTESTDATA("libraryform.ui"), nullptr, &objects, false));
+    const std::unique_ptr<QObject> form(objects.value(0));
+    auto *caption = form->findChild<ZARNChiseledTextField *>(u"caption"_s);
+    QVERIFY(caption);
+    QCOMPARE(caption->shadowField()->text(), u"Sources"_s);
+
+    // The split view keeps 7 whatever the form says, until told otherwise.
+    auto *split = form->findChild<BXSplitView *>(u"split"_s);
+    QVERIFY(split);
+    static_cast<QWidget *>(form.get())->show();
+    QCOMPARE(split->handleWidth(), 7);
+    split->setDividerThickness(3.0f);
+    QCOMPARE(split->handleWidth(), 3);
 }
 
 QTEST_MAIN(TestNibAdditions)
