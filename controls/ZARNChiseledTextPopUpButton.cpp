@@ -16,19 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The artwork \a name, at twice the resolution where the screen has more than one pixel per
-// point and the artwork exists at that resolution.
 QImage artwork(const QString &name, qreal pixelRatio)
 {
-    const QString className = u"ZARNChiseledTextPopUpButton"_s;
-    if (pixelRatio > 1.0) {
-        QImage doubled = Brixel::imageNamed(name + u"@2x"_s, className);
-        if (!doubled.isNull()) {
-            doubled.setDevicePixelRatio(2.0);
-            return doubled;
-        }
-    }
-    return Brixel::imageNamed(name, className);
+    return Brixel::imageNamed(name, u"ZARNChiseledTextPopUpButton"_s, pixelRatio);
 }
 
 float widthOf(const QImage &image)

@@ -59,6 +59,18 @@ QImage Brixel::imageNamed(const QString &name, const QString &className)
     return loadFromFolder(QString::fromLatin1(ZARNLibraryImagesPrefix), name);
 }
 
+QImage Brixel::imageNamed(const QString &name, const QString &className, qreal devicePixelRatio)
+{
+    if (devicePixelRatio > 1.0) {
+        QImage doubled = imageNamed(name + QStringLiteral("@2x"), className);
+        if (!doubled.isNull()) {
+            doubled.setDevicePixelRatio(2.0);
+            return doubled;
+        }
+    }
+    return imageNamed(name, className);
+}
+
 QImage Brixel::imageByCompositingImages(const QList<QImage> &images)
 {
     if (images.isEmpty() || images.constFirst().isNull())

@@ -43,6 +43,13 @@ BRIXEL_EXPORT void ZARNSetResourcePrefixForClass(const QString &className, const
 BRIXEL_EXPORT QImage imageNamed(const QString &name, const QString &className);
 
 /**
+ * The image \a name for a screen of \a devicePixelRatio: above 1, "name@2x" is looked up first
+ * and, when found, comes back with a device pixel ratio of 2, so it has the size of "name" in
+ * device-independent pixels; otherwise imageNamed(name, className).
+ */
+BRIXEL_EXPORT QImage imageNamed(const QString &name, const QString &className, qreal devicePixelRatio);
+
+/**
  * One image of the first image's size with every image drawn over it in order, the first at
  * the bottom; each is scaled to fit the canvas keeping its proportions (enlarged or reduced),
  * centred, and placed on whole pixels. Null for an empty list or a null first image; null
