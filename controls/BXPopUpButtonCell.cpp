@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "BXPopUpButtonCell.h"
 
-#include "../drawing/ZARNAttributedStringDrawing.h"
+#include "../drawing/ZARNAttributedTextLayout.h"
 #include "../platform/ZARNAttributedString.h"
 #include "../platform/ZARNSystemVersion.h"
 #include "../tables/ZARNTableView.h"
@@ -109,9 +109,11 @@ void BXPopUpButtonCell::paint(QPainter *painter, const QStyleOptionViewItem &opt
     if (shown.isEmpty())
         return;
     const QRectF interior(option.rect.x(), option.rect.y(), option.rect.width() - ArrowsWidth, option.rect.height());
+    // One line, centred on the interior's height like the style's own pop-up title.
+    const ZARNAttributedTextLayout text(shown, interior.width(), false);
     painter->save();
     painter->setClipRect(interior);
-    Brixel::drawAttributedString(*painter, shown, interior, false);
+    text.draw(*painter, interior.adjusted(0, (interior.height() - text.height()) / 2, 0, 0));
     painter->restore();
 }
 

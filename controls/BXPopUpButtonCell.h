@@ -11,8 +11,8 @@ class ZARNAttributedString;
 
 /**
  * A pop-up button cell for item views: it draws the pop-up frame and arrows of the current
- * style, and over it an attributed display string in the cell less 10 pixels on the right
- * (left for the arrows), instead of the item's title. Editing shows a combo box of items().
+ * style, and over it an attributed display string on one line, centred on the cell's height,
+ * in the cell less 10 pixels on the right (left for the arrows), instead of the item's title. Editing shows a combo box of items().
  *
  * \code
  * auto *priority = new BXPopUpButtonCell(table);

@@ -1,19 +1,31 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // The Controls page: chiseled labels in every state and both looks, the chiseled pop-up
 // button's three appearances side by side and a live one, a pop-up button with tagged items,
-// and a chiseled label with an image in its text.
+// a segmented control with its separators and an image button, a split view, a label with an
+// image in its text and a text with an attachment moved below the baseline, and the pop-up and
+// combo-box cells in a table.
 #include "../GalleryPages.h"
 
+#include <Brixel/BXComboBoxCell.h>
+#include <Brixel/BXPopUpButtonCell.h>
+#include <Brixel/BXSplitView.h>
 #include <Brixel/ZARNAttributedString.h>
 #include <Brixel/ZARNChiseledTextField.h>
 #include <Brixel/ZARNChiseledTextPopUpButton.h>
 #include <Brixel/ZARNPopUpButton.h>
+#include <Brixel/ZARNSegmentedControl.h>
+#include <Brixel/ZARNSegmentedControlButton.h>
+#include <Brixel/ZARNTableView.h>
+#include <Brixel/ZARNTextAttachmentCell.h>
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
+#include <QStandardItemModel>
+#include <QTextBrowser>
+#include <QTextCursor>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -119,6 +131,78 @@ QGroupBox *popUpButton()
     return box;
 }
 
+QImage disc(QColor color, int size)
+{
+    QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(color);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QRectF(1, 1, size - 2, size - 2));
+    return image;
+}
+
+QGroupBox *segmentedControls()
+{
+    auto *box = new QGroupBox(QObject::tr("Segmented control with separators, and an image button"));
+    auto *layout = new QHBoxLayout(box);
+    auto *control = new ZARNSegmentedControl;
+    const QStringList labels{QObject::tr("Day"), QObject::tr("Week"), QObject::tr("Month"), QObject::tr("Year")};
+    control->setSegmentCount(int(labels.size()));
+    for (int segment = 0; segment < labels.size(); ++segment)
+        control->setLabel(labels.at(segment), segment);
+    control->setSelectedSegment(0);
+    control->setFixedSize(280, 26);
+    auto *button = new ZARNSegmentedControlButton;
+    button->setSegmentCount(1);
+    button->setImage(disc(QColor(60, 120, 200), 16));
+    button->setFixedSize(45, 26);
+    layout->addWidget(control);
+    layout->addWidget(button);
+    layout->addStretch();
+    return box;
+}
+
+QGroupBox *splitView()
+{
+    auto *box = new QGroupBox(QObject::tr("Split view with 7-pixel dividers"));
+    auto *layout = new QHBoxLayout(box);
+    auto *split = new BXSplitView(Qt::Horizontal);
+    for (const QString &name : {QObject::tr("Sources"), QObject::tr("Contents")}) {
+        auto *pane = new QLabel(name);
+        pane->setAlignment(Qt::AlignCenter);
+        pane->setFrameShape(QFrame::StyledPanel);
+        split->addWidget(pane);
+    }
+    split->setFixedHeight(50);
+    layout->addWidget(split);
+    return box;
+}
+
+QGroupBox *cellsInATable()
+{
+    auto *box = new QGroupBox(QObject::tr("Pop-up and combo-box cells in a table"));
+    auto *layout = new QHBoxLayout(box);
+    auto *model = new QStandardItemModel(0, 2, box);
+    model->setHorizontalHeaderLabels({QObject::tr("Priority"), QObject::tr("Unit")});
+    const QStringList priorities{QObject::tr("Low"), QObject::tr("Normal"), QObject::tr("High")};
+    for (int row = 0; row < 3; ++row)
+        model->appendRow({new QStandardItem(priorities.at(row)), new QStandardItem(QObject::tr("Pixels"))});
+    auto *table = new ZARNTableView;
+    table->setModel(model);
+    auto *priority = new BXPopUpButtonCell(table);
+    priority->setItems(priorities);
+    table->setItemDelegateForColumn(0, priority);
+    table->setItemDelegateForColumn(1, new BXComboBoxCell(table));
+    table->setColumnWidth(0, 140);
+    table->setColumnWidth(1, 140);
+    table->selectRow(1);
+    table->setFixedHeight(110);
+    layout->addWidget(table);
+    return box;
+}
+
 QGroupBox *attributedLabel()
 {
     auto *box = new QGroupBox(QObject::tr("Chiseled label with an image in its text"));
@@ -140,6 +224,17 @@ QGroupBox *attributedLabel()
     text.addAttribute(ZARNAttachmentAttributeName, star, {0, 1});
     field->setAttributedStringValue(text);
     layout->addWidget(field);
+
+    auto *browser = new QTextBrowser;
+    browser->setFixedSize(260, 40);
+    browser->setFrameShape(QFrame::NoFrame);
+    auto *attachment = new ZARNTextAttachmentCell(disc(QColor(200, 60, 60), 10), browser);
+    attachment->zarnSetCellBaselineOffset(QPointF(0, -3));
+    QTextCursor cursor(browser->document());
+    cursor.insertText(QObject::tr("Attachment 3 pixels low: "));
+    attachment->insertInto(cursor);
+    cursor.insertText(QObject::tr(" (text)"));
+    layout->addWidget(browser);
     layout->addStretch();
     return box;
 }
@@ -153,7 +248,10 @@ QWidget *createControlsPage()
     layout->addWidget(chiseledLabels());
     layout->addWidget(chiseledPopUpButtons());
     layout->addWidget(popUpButton());
+    layout->addWidget(segmentedControls());
+    layout->addWidget(splitView());
     layout->addWidget(attributedLabel());
+    layout->addWidget(cellsInATable());
     layout->addStretch();
     return page;
 }
