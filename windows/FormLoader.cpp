@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "FormLoader_p.h"
 
+#include "ZARNProgressWindow.h"
+#include "ZARNWindow.h"
+
 #include "../controls/BXSplitView.h"
 #include "../controls/ZARNButton.h"
 #include "../controls/ZARNChiseledTextField.h"
@@ -35,6 +38,8 @@ QWidget *FormLoader::createWidget(const QString &className, QWidget *parent, con
         {u"ZARNPopUpButton"_s, make<ZARNPopUpButton>},
         {u"ZARNSegmentedControl"_s, make<ZARNSegmentedControl>},
         {u"ZARNSegmentedControlButton"_s, make<ZARNSegmentedControlButton>},
+        {u"ZARNWindow"_s, make<ZARNWindow>},
+        {u"ZARNProgressWindow"_s, make<ZARNProgressWindow>},
     };
     const auto library = libraryWidgets.constFind(className);
     if (library == libraryWidgets.cend())
