@@ -411,6 +411,14 @@ void ZARNChiseledTextField::setAlignment(Qt::Alignment alignment)
     d->contentChanged(*this);
 }
 
+void ZARNChiseledTextField::setWordWrap(bool on)
+{
+    if (d->shadow)
+        d->shadow->setWordWrap(on);
+    QLabel::setWordWrap(on);
+    d->contentChanged(*this);
+}
+
 void ZARNChiseledTextField::setFont(const QFont &font)
 {
     QLabel::setFont(unsmoothed(font));

@@ -65,9 +65,11 @@ extern BRIXEL_EXPORT QColor ZARNChiseledTextField_DisabledColor;
 class BRIXEL_EXPORT ZARNChiseledTextField : public QLabel
 {
     Q_OBJECT
-    // The text and alignment reach the light copy also when set as properties (as forms do).
+    // The text, alignment and wrapping reach the light copy also when set as properties (as
+    // forms do).
     Q_PROPERTY(QString text READ text WRITE setText)
     Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    Q_PROPERTY(bool wordWrap READ wordWrap WRITE setWordWrap)
     Q_PROPERTY(QColor activeColor READ activeColor WRITE setActiveColor RESET resetActiveColor)
     Q_PROPERTY(QColor shadowActiveColor READ shadowActiveColor WRITE setShadowActiveColor RESET resetShadowActiveColor)
     Q_PROPERTY(QColor inactiveColor READ inactiveColor WRITE setInactiveColor RESET resetInactiveColor)
@@ -155,6 +157,7 @@ public:
     void initShadow();
 
     void setAlignment(Qt::Alignment alignment);
+    void setWordWrap(bool on);
     /// Sets \a font without font smoothing, on the copy and then on the field.
     void setFont(const QFont &font);
 

@@ -207,8 +207,17 @@ void ZARNTabView::tabSelected(int index)
         d->delegate->tabViewReallyDidSelectTabViewItem(this, widget(index));
 }
 
+void ZARNTabView::showEvent(QShowEvent *event)
+{
+    QTabWidget::showEvent(event);
+    resizeToFitContent();
+}
+
 void ZARNTabView::resizeToFitContent()
 {
+    // The page area has its size only once the tab view is laid out for showing.
+    if (!isVisible())
+        return;
     auto *item = qobject_cast<ZARNTabViewItem *>(currentWidget());
     if (item && item->customView()) {
         resizeToFitTabViewCustomView();
@@ -232,6 +241,8 @@ void ZARNTabView::resizeToFitContent()
 
 void ZARNTabView::resizeToFitContentXY()
 {
+    if (!isVisible())
+        return;
     QWidget *page = currentWidget();
     const QRect extent = page ? childrenExtent(*page) : QRect();
     if (extent.isNull())
@@ -254,7 +265,7 @@ void ZARNTabView::resizeToFitTabViewCustomView()
     auto *item = qobject_cast<ZARNTabViewItem *>(currentWidget());
     const QWidget *view = item ? item->customView() : nullptr;
     QWidget *window = this->window();
-    if (!view || window == this)
+    if (!view || window == this || !isVisible())
         return;
     // Window frames are worked out y-up on the screen and converted once each way.
     const float screenHeight = window->screen() ? float(window->screen()->geometry().height()) : 0.0f;

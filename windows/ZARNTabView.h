@@ -67,7 +67,9 @@ public:
  *   windowResizeMode() says, rounded outwards to whole pixels; the custom view is installed
  *   afterwards, with the keyboard focus where it was inside it.
  *
- * A tab view that no layout manages changes its own height with the window's.
+ * A tab view that no layout manages changes its own height with the window's. A tab view fits
+ * only while it is shown (before that its page area has no size), and fits once when it is
+ * shown.
  */
 class BRIXEL_EXPORT ZARNTabView : public QTabWidget
 {
@@ -101,6 +103,9 @@ public:
     void resizeToFitContentXY();
     /// Fits the window to the selected item's custom view (see the class description).
     void resizeToFitTabViewCustomView();
+
+protected:
+    void showEvent(QShowEvent *event) override;
 
 private:
     void tabSelected(int index);

@@ -27,7 +27,7 @@ QList<GalleryPage> galleryPages()
         {QObject::tr("Drawing"), createDrawingPage},
         {QObject::tr("Tables"), createTablesPage},
         {QObject::tr("Controls"), createControlsPage},
-        placeholder(QObject::tr("Windows")),
+        {QObject::tr("Windows"), createWindowsPage},
         placeholder(QObject::tr("Dates")),
         placeholder(QObject::tr("Speech")),
     };

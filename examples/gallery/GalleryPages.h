@@ -20,6 +20,7 @@ QWidget *createValuesPage();
 QWidget *createDrawingPage();
 QWidget *createTablesPage();
 QWidget *createControlsPage();
+QWidget *createWindowsPage();
 
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();
