@@ -133,19 +133,15 @@ void drawLabelText(QPainter &painter, const QWidget &field, const QLabel &label,
     field.style()->drawItemText(&painter, rect, flags, label.palette(), true, label.text(), QPalette::WindowText);
 }
 
-// \a label's text drawn on a transparent image of \a field's size. Text without font
-// smoothing is written into its target with its colour's alpha rather than blended, so text
-// in a translucent colour is drawn on a layer of its own, which is then blended into the field.
-QImage textLayer(const QWidget &field, const QLabel &label, const QTextDocument *document, const QRect &rect)
+// A label's text drawn on a transparent image of the field's size. Text without font smoothing
+// is written into its target with its colour's alpha rather than blended, so text in a
+// translucent colour is drawn on a layer of its own, which is then blended into the field. The
+// image is kept between drawings, so drawing a new text reuses its memory.
+struct TextLayer
 {
-    const qreal ratio = field.devicePixelRatioF();
-    QImage layer(field.size() * ratio, QImage::Format_ARGB32_Premultiplied);
-    layer.setDevicePixelRatio(ratio);
-    layer.fill(Qt::transparent);
-    QPainter painter(&layer);
-    drawLabelText(painter, field, label, document, rect);
-    return layer;
-}
+    QImage image;
+    bool current = false;
+};
 
 } // namespace
 
@@ -164,7 +160,7 @@ public:
     // Called whenever anything drawn changes: lays attributed text out again and drops the
     // drawn layers.
     void contentChanged(const ZARNChiseledTextField &field);
-    const QImage &layer(QImage &cache, const ZARNChiseledTextField &field, const QLabel &label,
+    const QImage &layer(TextLayer &layer, const ZARNChiseledTextField &field, const QLabel &label,
                         const QTextDocument *labelDocument) const;
 
     std::unique_ptr<QLabel> shadow;
@@ -179,25 +175,33 @@ public:
     std::optional<ZARNAttributedString> attributedValue;
     std::unique_ptr<QTextDocument> document;
     std::unique_ptr<QTextDocument> shadowDocument;
-    // Each label's text as last drawn, null when it must be drawn again.
-    mutable QImage ownLayer;
-    mutable QImage shadowLayer;
+    mutable TextLayer ownLayer;
+    mutable TextLayer shadowLayer;
 
     std::unique_ptr<BrixelPrivate::ActivityFollower> activity;
 };
 
-const QImage &ZARNChiseledTextFieldPrivate::layer(QImage &cache, const ZARNChiseledTextField &field,
+const QImage &ZARNChiseledTextFieldPrivate::layer(TextLayer &layer, const ZARNChiseledTextField &field,
                                                  const QLabel &label, const QTextDocument *labelDocument) const
 {
-    if (cache.isNull() || cache.devicePixelRatio() != field.devicePixelRatioF())
-        cache = textLayer(field, label, labelDocument, textRect(field));
-    return cache;
+    const qreal ratio = field.devicePixelRatioF();
+    const QSize pixels = field.size() * ratio;
+    if (layer.current && layer.image.size() == pixels && layer.image.devicePixelRatio() == ratio)
+        return layer.image;
+    if (layer.image.size() != pixels)
+        layer.image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+    layer.image.setDevicePixelRatio(ratio);
+    layer.image.fill(Qt::transparent);
+    QPainter painter(&layer.image);
+    drawLabelText(painter, field, label, labelDocument, textRect(field));
+    layer.current = true;
+    return layer.image;
 }
 
 void ZARNChiseledTextFieldPrivate::contentChanged(const ZARNChiseledTextField &field)
 {
-    ownLayer = QImage();
-    shadowLayer = QImage();
+    ownLayer.current = false;
+    shadowLayer.current = false;
     if (!attributedValue) {
         document.reset();
         shadowDocument.reset();
