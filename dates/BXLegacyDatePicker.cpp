@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "BXLegacyDatePicker.h"
 
+#include "DateEntrySizing_p.h"
 #include "DateFieldOrder_p.h"
 
 #include "../platform/ZARNLocalizedString.h"
@@ -10,7 +11,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
-#include <QStyleOptionFrame>
 
 #include <array>
 #include <cmath>
@@ -59,19 +59,6 @@ QFont smallControlFont(QFont font)
 {
     font.setPointSizeF(font.pointSizeF() * 11.0 / 13.0);
     return font;
-}
-
-// The size a line edit needs for \a sample, by the same rule as QLineEdit::sizeHint().
-QSize lineEditSizeFor(const QLineEdit &edit, const QString &sample)
-{
-    const QFontMetrics metrics(edit.font());
-    const QMargins text = edit.textMargins();
-    const QSize contents(metrics.horizontalAdvance(sample) + 2 * 2 + text.left() + text.right(),
-                         qMax(metrics.height(), 14) + 2 * 1 + text.top() + text.bottom());
-    QStyleOptionFrame option;
-    option.initFrom(&edit);
-    option.lineWidth = edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &option, &edit);
-    return edit.style()->sizeFromContents(QStyle::CT_LineEdit, &option, contents, &edit);
 }
 
 // Walks the focus chain from \a field, away in \a direction, to the first widget outside
@@ -133,7 +120,7 @@ BXLegacyDatePicker::BXLegacyDatePicker(QWidget *parent)
         auto *entry = new QLineEdit(this);
         entry->setObjectName(name);
         const ZARNRect &below = d->frame(caption);
-        const QSize size = lineEditSizeFor(*entry, sample);
+        const QSize size = BrixelPrivate::lineEditSizeFor(*entry, sample);
         d->frame(entry) = ZARNRect(0, below.maxY() + 2.0f, float(size.width()), float(size.height()));
         connect(entry, &QLineEdit::textChanged, this, [entry](const QString &text) {
             qCInfo(lcDatePicker) << "text changed in" << entry->objectName() << ":" << text;
