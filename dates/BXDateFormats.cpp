@@ -4,6 +4,7 @@
 #include "DateFieldOrder_p.h"
 
 #include "../platform/ZARNSystemVersion.h"
+#include "../platform/ZARNUserDefaults.h"
 
 #include <QStringList>
 
@@ -41,4 +42,33 @@ QString Brixel::DateFormatStringToShortestDateFormatString(const QString &format
     slots[d >= m ? (d < y ? 1 : 2) : (d >= y ? 1 : 0)] = u"%e"_s;
     slots[m <= y ? (d > y ? 1 : 2) : (d > y ? 0 : 1)] = u"%y"_s;
     return QStringList(slots.cbegin(), slots.cend()).join(u'/');
+}
+
+QString Brixel::userShortDateFormat()
+{
+    const QString stored = ZARNUserDefaults::stringForKey(u"NSShortDateFormatString"_s);
+    return stored.isEmpty() ? localeShortDateFormat() : stored;
+}
+
+QString Brixel::localeShortDateFormat(const QLocale &locale)
+{
+    // Runs of Qt's pattern letters ("d", "dd", "M", "MMM", "yy", "yyyy", ...) become %-elements.
+    const QString pattern = locale.dateFormat(QLocale::ShortFormat);
+    QString format;
+    for (qsizetype i = 0; i < pattern.size();) {
+        const QChar letter = pattern.at(i);
+        qsizetype run = 1;
+        while (i + run < pattern.size() && pattern.at(i + run) == letter)
+            ++run;
+        if (letter == u'd')
+            format += run >= 3 ? u"%a"_s : u"%d"_s;
+        else if (letter == u'M')
+            format += run >= 4 ? u"%B"_s : run == 3 ? u"%b"_s : u"%m"_s;
+        else if (letter == u'y')
+            format += run >= 4 ? u"%Y"_s : u"%y"_s;
+        else if (letter != u'\'')
+            format += QString(run, letter);
+        i += run;
+    }
+    return format;
 }

@@ -3,6 +3,7 @@
 
 #include <Brixel/brixel_export.h>
 
+#include <QLocale>
 #include <QString>
 
 namespace Brixel {
@@ -25,5 +26,16 @@ namespace Brixel {
  * \endcode
  */
 BRIXEL_EXPORT QString DateFormatStringToShortestDateFormatString(const QString &format);
+
+/**
+ * The user's short date format: the user default "NSShortDateFormatString" (ZARNUserDefaults),
+ * or, when it is not set, the locale's short date format turned into a %-format
+ * (localeShortDateFormat()).
+ */
+BRIXEL_EXPORT QString userShortDateFormat();
+
+/// \a locale's short date format as a %-format: Qt's "d"/"dd" become "%d", "M"/"MM" "%m",
+/// "MMM" "%b", "MMMM" "%B", "yy" "%y" and "yyyy" "%Y" ("M/d/yy" becomes "%m/%d/%y").
+BRIXEL_EXPORT QString localeShortDateFormat(const QLocale &locale = QLocale());
 
 } // namespace Brixel

@@ -10,7 +10,6 @@
 #include "../controls/ZARNFormatterValidator.h"
 #include "../platform/ZARNLocalizedString.h"
 #include "../platform/ZARNSystemVersion.h"
-#include "../platform/ZARNUserDefaults.h"
 
 #include <QCloseEvent>
 #include <QDateTime>
@@ -116,9 +115,8 @@ void BXDateRangePanel::initInterface()
         d->fromObject = BrixelPrivate::createTextDatePicker(container);
         d->toObject = BrixelPrivate::createTextDatePicker(container);
     } else {
-        const QString stored = ZARNUserDefaults::stringForKey(u"NSShortDateFormatString"_s);
         d->formatter = std::make_shared<ZARNCalendarDateFormatter>(
-            Brixel::DateFormatStringToShortestDateFormatString(stored));
+            Brixel::DateFormatStringToShortestDateFormatString(Brixel::userShortDateFormat()));
         d->fromObject = d->makeDateField(container);
         d->toObject = d->makeDateField(container);
     }

@@ -21,9 +21,9 @@ class ZARNChiseledTextField;
  * From system version 0x1040 on the dates are entered with the text date pickers of the
  * "DatePicker" plug-in (see ZARNDatePickerPlugin); when the plug-in is missing the panel has no
  * entry controls, lays itself out as if they were empty, and still runs. Below 0x1040 they are
- * line edits in the shortest date format of the user's "NSShortDateFormatString"
- * (Brixel::DateFormatStringToShortestDateFormatString()), which show today's date until run()
- * shows the stored ones.
+ * line edits in the shortest date format (Brixel::DateFormatStringToShortestDateFormatString())
+ * of the user's short date format (Brixel::userShortDateFormat()), which show today's date
+ * until run() shows the stored ones.
  *
  * run() shows the panel centred, modal for the whole application, and returns true once OK (or
  * Return) is pressed; Escape and the window's close control do nothing, and the panel has no

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "BXLegacyDatePicker.h"
 
+#include "BXDateFormats.h"
 #include "DateEntrySizing_p.h"
 #include "DateFieldOrder_p.h"
 
 #include "../platform/ZARNLocalizedString.h"
 #include "../platform/ZARNRect.h"
-#include "../platform/ZARNUserDefaults.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -145,8 +145,7 @@ BXLegacyDatePicker::BXLegacyDatePicker(QWidget *parent)
                                                              d->yearTitle, d->separator, d->separator2})
         widget->raise();
 
-    const QString stored = ZARNUserDefaults::stringForKey(u"NSShortDateFormatString"_s);
-    setDateFormat(stored.isEmpty() ? localeShortDateFormat() : stored);
+    setDateFormat(Brixel::userShortDateFormat());
 
     // The bounds hold every child; each candidate is truncated as it becomes the largest.
     float width = 0.0f;
@@ -261,29 +260,6 @@ QLabel *BXLegacyDatePicker::separatorField() const
 QLabel *BXLegacyDatePicker::separator2Field() const
 {
     return d->separator2;
-}
-
-QString BXLegacyDatePicker::localeShortDateFormat(const QLocale &locale)
-{
-    // Qt's pattern letters runs ("d", "dd", "M", "MMM", "yy", "yyyy", ...) become %-elements.
-    const QString pattern = locale.dateFormat(QLocale::ShortFormat);
-    QString format;
-    for (qsizetype i = 0; i < pattern.size();) {
-        const QChar letter = pattern.at(i);
-        qsizetype run = 1;
-        while (i + run < pattern.size() && pattern.at(i + run) == letter)
-            ++run;
-        if (letter == u'd')
-            format += run >= 3 ? u"%a"_s : u"%d"_s;
-        else if (letter == u'M')
-            format += run >= 4 ? u"%B"_s : run == 3 ? u"%b"_s : u"%m"_s;
-        else if (letter == u'y')
-            format += run >= 4 ? u"%Y"_s : u"%y"_s;
-        else if (letter != u'\'')
-            format += QString(run, letter);
-        i += run;
-    }
-    return format;
 }
 
 QSize BXLegacyDatePicker::sizeHint() const

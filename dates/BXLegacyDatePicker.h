@@ -21,9 +21,8 @@ class QLineEdit;
  * picker->setDate(ZARNCalendarDate::dateWithYear(2007, 3, 5, 0, 0, 0));   // shows 3 / 5 / 2007
  * \endcode
  *
- * The order comes from the user default "NSShortDateFormatString" (ZARNUserDefaults); when it
- * is not set, from the locale's short date format turned into a %-format
- * (localeShortDateFormat()). setDateFormat() re-orders the fields at any time: the fields move
+ * The order comes from the user's short date format (Brixel::userShortDateFormat(): the user
+ * default "NSShortDateFormatString", else the locale's). setDateFormat() re-orders the fields at any time: the fields move
  * to fixed positions for each of the six orders, and the keyboard focus goes through them in
  * the order they are shown, between the widgets before and after the picker. A format whose
  * three kinds of field cannot be ordered is stored but moves nothing.
@@ -57,9 +56,6 @@ public:
     QLabel *yearTitleField() const;
     QLabel *separatorField() const;
     QLabel *separator2Field() const;
-
-    /// The locale's short date format as a %-format ("M/d/yy" becomes "%m/%d/%y").
-    static QString localeShortDateFormat(const QLocale &locale = QLocale());
 
     QSize sizeHint() const override;
 

@@ -28,7 +28,7 @@ QList<GalleryPage> galleryPages()
         {QObject::tr("Tables"), createTablesPage},
         {QObject::tr("Controls"), createControlsPage},
         {QObject::tr("Windows"), createWindowsPage},
-        placeholder(QObject::tr("Dates")),
+        {QObject::tr("Dates"), createDatesPage},
         placeholder(QObject::tr("Speech")),
     };
 }

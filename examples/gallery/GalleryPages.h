@@ -21,6 +21,7 @@ QWidget *createDrawingPage();
 QWidget *createTablesPage();
 QWidget *createControlsPage();
 QWidget *createWindowsPage();
+QWidget *createDatesPage();
 
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();

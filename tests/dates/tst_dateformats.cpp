@@ -12,6 +12,8 @@ class TestDateFormats : public QObject
 private Q_SLOTS:
     void shortest_data();
     void shortest();
+    void localeFormats_data();
+    void localeFormats();
 };
 
 void TestDateFormats::shortest_data()
@@ -42,6 +44,23 @@ void TestDateFormats::shortest()
     QFETCH(QString, shortest);
     Brixel::ZARNSetSystemVersion(version);
     QCOMPARE(Brixel::DateFormatStringToShortestDateFormatString(format), shortest);
+}
+
+void TestDateFormats::localeFormats_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("format");
+
+    QTest::newRow("en_US") << QLocale(u"en_US"_s) << u"%m/%d/%y"_s;
+    QTest::newRow("de_DE") << QLocale(u"de_DE"_s) << u"%d.%m.%y"_s;
+    QTest::newRow("ja_JP") << QLocale(u"ja_JP"_s) << u"%Y/%m/%d"_s;
+}
+
+void TestDateFormats::localeFormats()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, format);
+    QCOMPARE(Brixel::localeShortDateFormat(locale), format);
 }
 
 QTEST_GUILESS_MAIN(TestDateFormats)
