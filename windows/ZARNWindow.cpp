@@ -170,6 +170,8 @@ void ZARNWindow::setWorksWhenModal(bool flag)
     if (flag == d->worksWhenModal)
         return;
     d->worksWhenModal = flag;
+    if (!qApp)
+        return;
     if (flag)
         qApp->installEventFilter(this);
     else
