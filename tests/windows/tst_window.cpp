@@ -197,6 +197,14 @@ void TestWindow::tallWindowsKeepTheirTopOnScreen()
     QCOMPARE(window.constrainFrameRect(tall, nullptr), QRect(10, available.top(), 300, available.height() + 200));
     const QRect fits(10, available.top() + 50, 300, available.height() - 100);
     QCOMPARE(window.constrainFrameRect(fits, nullptr), fits);
+
+    // Shown, a window taller than the screen is moved up, not shrunk.
+    ZARNWindow tallWindow;
+    tallWindow.setGeometry(10, available.top() + 50, 300, available.height() + 200);
+    tallWindow.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tallWindow));
+    QCOMPARE(tallWindow.frameGeometry().top(), available.top());
+    QCOMPARE(tallWindow.height(), available.height() + 200);
 }
 
 void TestWindow::worksWhenModal_data()
