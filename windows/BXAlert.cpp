@@ -63,7 +63,10 @@ BXAlert::BXAlert()
 BXAlert::~BXAlert()
 {
     // The form belongs to the alert.
-    delete d->window.data();
+    if (d->window) {
+        d->window->removeEventFilter(this);
+        delete d->window.data();
+    }
 }
 
 QString BXAlert::defaultFormPath()
@@ -272,7 +275,9 @@ int BXAlert::runAsSheetForWindow(QWidget *parent)
 
 bool BXAlert::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == d->window && event->type() == QEvent::Close && d->loop) {
+    // Compared as objects only for a close during a run: a window being destroyed is no longer
+    // a ZARNWindow.
+    if (event->type() == QEvent::Close && d->loop && watched == static_cast<QObject *>(d->window.data())) {
         event->ignore();
         return true;
     }
