@@ -50,9 +50,7 @@ std::unique_ptr<QTextDocument> attributedTextDocument(const ZARNAttributedString
                                                       Qt::Alignment alignment, bool wraps)
 {
     auto document = std::make_unique<QTextDocument>();
-    QFont plainFont = font;
-    plainFont.setStyleStrategy(QFont::NoAntialias);
-    document->setDefaultFont(plainFont);
+    document->setDefaultFont(font);
     document->setDocumentMargin(0);
     QTextOption option(alignment & Qt::AlignHorizontal_Mask);
     option.setWrapMode(wraps ? QTextOption::WordWrap : QTextOption::NoWrap);

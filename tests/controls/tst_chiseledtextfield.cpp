@@ -124,14 +124,22 @@ void TestChiseledTextField::engraving()
     field.setFont(QFont(u"DejaVu Sans"_s, 18, QFont::Bold));
     field.setAlignment(alignment);
     if (attributed)
-        field.setAttributedStringValue(ZARNAttributedString(u"Library"_s, {{ZARNFontAttributeName, field.font()}}));
+        field.setAttributedStringValue(
+            ZARNAttributedString(u"Library"_s, {{ZARNFontAttributeName, QFont(u"DejaVu Sans"_s, 18, QFont::Bold)}}));
     else
         field.setText(u"Library"_s);
     if (!active)
         field.deactivate();
     const QImage image = renderOverWhite(field);
 
-    // Font smoothing is off: every glyph pixel has exactly one of the two colours.
+    // Font smoothing is off: every pixel is the background or one of the two colours.
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (!colorsClose(pixel, Qt::white, 3) && !colorsClose(pixel, text, 3) && !colorsClose(pixel, shadow, 3))
+                QFAIL(qPrintable(u"smoothed pixel at %1, %2"_s.arg(x).arg(y)));
+        }
+    }
     const QRect own = boundsOf(image, text);
     const QRect engraving = boundsOf(image, shadow);
     QVERIFY(!own.isNull());
@@ -248,6 +256,10 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
     if (window)
         QCoreApplication::sendEvent(window.get(), &deactivation);
     QCOMPARE(!field->isActive(), followsWindow);
+    QEvent activation(QEvent::WindowActivate);
+    if (window)
+        QCoreApplication::sendEvent(window.get(), &activation);
+    QVERIFY(field->isActive());
 
     field->activate();
     Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
