@@ -286,12 +286,15 @@ void TestChiseledTextField::attachmentDrawnOnce()
     value.addAttribute(ZARNAttachmentAttributeName, picture, {0, 1});
 
     ZARNChiseledTextField field;
-    field.resize(120, 40);
+    field.resize(120, 100);
     field.setAttributedStringValue(value);
     QCOMPARE(field.attributedStringValue().attribute(ZARNForegroundColorAttributeName, 1), QVariant(field.textColor()));
     const QImage image = renderOverWhite(field);
 
-    QCOMPARE(boundsOf(image, Qt::red).size(), QSize(10, 8));
+    const QRect shownPicture = boundsOf(image, Qt::red);
+    QCOMPARE(shownPicture.size(), QSize(10, 8));
+    // Attributed text is centred on the field's height as plain text is.
+    QVERIFY(qAbs(shownPicture.center().y() - 50) <= 6);
     // The copy keeps the attachment's room, so the letters after it line up.
     const QRect own = boundsOf(image, greyOverWhite(0.149, 1.0));
     const QRect engraving = boundsOf(image, greyOverWhite(0.8078, 0.9));

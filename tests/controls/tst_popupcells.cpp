@@ -6,6 +6,7 @@
 
 #include "BrixelTest.h"
 
+#include <QComboBox>
 #include <QPainter>
 #include <QStandardItemModel>
 #include <QTest>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void displayString();
     void titleLeavesRoomForTheArrows();
     void knobInTheRightmostTenPixels();
+    void editsThroughAComboBox();
 };
 
 void TestPopUpCells::initTestCase()
@@ -95,8 +97,10 @@ void TestPopUpCells::titleLeavesRoomForTheArrows()
     const QSize size(100, 20);
     const QImage withoutText = paintCell(cell, model.index(0, 1), size);
     const QRect text = differences(paintCell(cell, model.index(0, 0), size), withoutText);
-    // The long title runs up to the last pixel before the arrows' 10, and no further.
+    // The long title runs up to the last pixel before the arrows' 10, and no further, centred
+    // on the cell's height.
     QVERIFY(!text.isNull());
+    QVERIFY(qAbs(text.center().y() - 10) <= 2);
     QVERIFY(text.right() <= 100 - 10 - 1);
     QVERIFY(text.right() >= 100 - 10 - 4);
 
@@ -122,6 +126,24 @@ void TestPopUpCells::knobInTheRightmostTenPixels()
     const QRect knob = brixeltest::pixelBounds(image, [](const QColor &c) { return c.red() < 128; });
     QVERIFY(QRect(92, 5, 7, 10).contains(knob));
     QVERIFY(knob.width() >= 5 && knob.height() >= 8);
+}
+
+void TestPopUpCells::editsThroughAComboBox()
+{
+    QStandardItemModel model;
+    model.appendRow(new QStandardItem(u"Normal"_s));
+    BXPopUpButtonCell cell;
+    cell.setItems({u"Low"_s, u"Normal"_s, u"High"_s});
+    QWidget parent;
+    const std::unique_ptr<QWidget> editor(cell.createEditor(&parent, {}, model.index(0, 0)));
+    auto *comboBox = qobject_cast<QComboBox *>(editor.get());
+    QVERIFY(comboBox);
+    QCOMPARE(comboBox->count(), 3);
+    cell.setEditorData(comboBox, model.index(0, 0));
+    QCOMPARE(comboBox->currentIndex(), 1);
+    comboBox->setCurrentIndex(2);
+    cell.setModelData(comboBox, &model, model.index(0, 0));
+    QCOMPARE(model.index(0, 0).data().toString(), u"High"_s);
 }
 
 QTEST_MAIN(TestPopUpCells)
