@@ -269,6 +269,12 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
 
     if (!followsWindow)
         return;
+    // A field moved into the window later follows it as well.
+    auto *moved = new ZARNChiseledTextField;
+    moved->setParent(window.get());
+    QCoreApplication::sendEvent(window.get(), &deactivation);
+    QVERIFY(!moved->isActive());
+
     // A window-modal dialog over the window deactivates the field too.
     QDialog sheet(window.get());
     sheet.setWindowModality(Qt::WindowModal);

@@ -242,6 +242,9 @@ void TestPopUpButtons::appearances()
     };
     const QColor active = ZARNChiseledTextField::defaultActiveColor();
     QVERIFY(contains(idle, active));
+    // The capsules carry white text with a dark copy below, in any activity.
+    QVERIFY(contains(button.ConstructMouseOverImage(), Qt::white));
+    QVERIFY(contains(button.alternateImage(), ZARNChiseledTextPopUpButton::shadow_HighlightColor()));
     button.deactivate();
     QVERIFY(!contains(button.image(), active));
     QVERIFY(contains(button.image(), ZARNChiseledTextField::defaultInactiveColor()));
