@@ -294,6 +294,7 @@ void TestChiseledTextField::attachmentDrawnOnce()
     ZARNChiseledTextField field;
     field.resize(120, 100);
     field.setAttributedStringValue(value);
+    QCOMPARE(field.text(), value.string());
     QCOMPARE(field.attributedStringValue().attribute(ZARNForegroundColorAttributeName, 1), QVariant(field.textColor()));
     const QImage image = renderOverWhite(field);
 

@@ -157,6 +157,7 @@ void TestPopUpButtons::popsUpItsMenu()
     button->setEnabled(enabled);
     RecordingDelegate delegate;
     button->setDelegate(&delegate);
+    QCOMPARE(button->delegate(), &delegate);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
@@ -231,6 +232,11 @@ void TestPopUpButtons::appearances()
     ZARNChiseledTextPopUpButton button(u"Documents"_s);
     const QImage idle = button.image();
     QVERIFY(!isCapsule(idle));
+    // The button shows its idle appearance as it is.
+    QImage shown(button.size(), QImage::Format_ARGB32_Premultiplied);
+    shown.fill(Qt::transparent);
+    button.render(&shown, {}, {}, QWidget::DrawChildren);
+    QCOMPARE(shown, idle);
     QVERIFY(isCapsule(button.ConstructMouseOverImage()));
     QVERIFY(isCapsule(button.alternateImage()));
     QVERIFY(button.ConstructMouseOverImage() != button.alternateImage());

@@ -70,6 +70,8 @@ void TestSmallControls::attachmentOffset()
     QTextDocument document;
     auto *cell = new ZARNTextAttachmentCell(red, &document);
     cell->zarnSetCellBaselineOffset(offset);
+    // The centre flag starts off.
+    QCOMPARE(cell->cellBaselineOffset(), offset);
     cell->zarnSetCenterCellBaselineOffset(centre);
     QCOMPARE(cell->cellBaselineOffset(), centre ? QPointF() : offset);
     QTextCursor cursor(&document);
