@@ -32,7 +32,7 @@ public:
 
     /// The formats the framework can encode, in its order.
     virtual QList<ZARNMediaEncoder> encoders() const = 0;
-    /// File name extensions (without the dot, lower case) of the formats it can decode.
+    /// File name extensions (without the dot, lower case) of the sound files it can decode.
     virtual QStringList readableSoundFileTypes() const = 0;
     /// The framework's version as a binary-coded-decimal word: major version in the top byte,
     /// minor and bug-fix digits in the next byte's two halves (0x06428000 for 6.4.2).
@@ -43,7 +43,8 @@ public:
     /// Installs \a facts; nullptr restores the system's.
     static void setCurrent(std::unique_ptr<ZARNMediaFacts> facts);
     /**
-     * Qt Multimedia's: QMediaFormat's encodable and decodable file formats, and the version
+     * Qt Multimedia's: QMediaFormat's encodable file formats, the files of its decodable
+     * file formats and of its decodable audio codecs alone (Ogg Vorbis, MP3, ...), and the version
      * Brixel was built with (a digit above 9 is written as 9).
      */
     static const ZARNMediaFacts &system();

@@ -209,6 +209,26 @@ quint32 formatCode(QMediaFormat::FileFormat format)
     return 0;
 }
 
+// The MIME type of a file that holds sound in \a codec alone; empty when there is none.
+const char *soundFileMimeType(QMediaFormat::AudioCodec codec)
+{
+    switch (codec) {
+    case QMediaFormat::AudioCodec::MP3: return "audio/mpeg";
+    case QMediaFormat::AudioCodec::AAC: return "audio/aac";
+    case QMediaFormat::AudioCodec::AC3: return "audio/ac3";
+    case QMediaFormat::AudioCodec::EAC3: return "audio/eac3";
+    case QMediaFormat::AudioCodec::FLAC: return "audio/flac";
+    case QMediaFormat::AudioCodec::Opus: return "audio/x-opus+ogg";
+    case QMediaFormat::AudioCodec::Vorbis: return "audio/x-vorbis+ogg";
+    case QMediaFormat::AudioCodec::Wave: return "audio/x-wav";
+    case QMediaFormat::AudioCodec::WMA: return "audio/x-ms-wma";
+    case QMediaFormat::AudioCodec::ALAC: return "audio/mp4";
+    case QMediaFormat::AudioCodec::DolbyTrueHD:
+    case QMediaFormat::AudioCodec::Unspecified: break;
+    }
+    return "";
+}
+
 class SystemMediaFacts final : public ZARNMediaFacts
 {
 public:
@@ -221,14 +241,23 @@ public:
     }
     QStringList readableSoundFileTypes() const override
     {
-        QStringList types;
-        for (QMediaFormat::FileFormat format : QMediaFormat().supportedFileFormats(QMediaFormat::Decode)) {
-            for (const QString &suffix : QMediaFormat(format).mimeType().suffixes()) {
-                if (!types.contains(suffix))
-                    types.append(suffix);
+        QMediaFormat formats;   // its queries are not const
+        QList<QMimeType> types;
+        for (QMediaFormat::FileFormat format : formats.supportedFileFormats(QMediaFormat::Decode))
+            types.append(QMediaFormat(format).mimeType());
+        // A file of a codec alone is readable too, although Qt 6.4's GStreamer back end does
+        // not list its container (Ogg Vorbis sounds, for one).
+        const QMimeDatabase database;
+        for (QMediaFormat::AudioCodec codec : formats.supportedAudioCodecs(QMediaFormat::Decode))
+            types.append(database.mimeTypeForName(QLatin1String(soundFileMimeType(codec))));
+        QStringList suffixes;
+        for (const QMimeType &type : types) {
+            for (const QString &suffix : type.suffixes()) {
+                if (!suffixes.contains(suffix))
+                    suffixes.append(suffix);
             }
         }
-        return types;
+        return suffixes;
     }
     quint32 versionCode() const override
     {
