@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "GalleryPages.h"
 
+#include <QObject>
+
 QList<GalleryPage> galleryPages()
 {
     return {

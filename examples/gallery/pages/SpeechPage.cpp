@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -62,20 +63,33 @@ QGroupBox *speechQueue()
     return box;
 }
 
+// The installed alert sounds, a Play button each, scrolled when there are many.
+QWidget *alertSounds()
+{
+    const QStringList sounds = Brixel::ZARNSystemSoundPaths();
+    if (sounds.isEmpty())
+        return new QLabel(QObject::tr("None installed"));
+    auto *list = new QWidget;
+    auto *layout = new QFormLayout(list);
+    for (const QString &path : sounds) {
+        auto *play = new QPushButton(QObject::tr("Play"));
+        QObject::connect(play, &QPushButton::clicked, list, [path] { Brixel::BXAlertSoundPlay(path); });
+        layout->addRow(QFileInfo(path).completeBaseName(), play);
+    }
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(list);
+    scroll->setWidgetResizable(true);
+    scroll->setMinimumHeight(220);
+    return scroll;
+}
+
 QGroupBox *volumesAndSounds()
 {
     auto *box = new QGroupBox(QObject::tr("Volumes and alert sounds"));
     auto *layout = new QFormLayout(box);
     layout->addRow(QObject::tr("System volume"), new QLabel(QString::number(Brixel::BXSystemVolume(), 'f', 2)));
     layout->addRow(QObject::tr("Alert volume"), new QLabel(QString::number(Brixel::BXAlertVolume(), 'f', 2)));
-    const QStringList sounds = Brixel::ZARNSystemSoundPaths();
-    if (sounds.isEmpty())
-        layout->addRow(QObject::tr("Alert sounds"), new QLabel(QObject::tr("None installed")));
-    for (const QString &path : sounds) {
-        auto *play = new QPushButton(QObject::tr("Play"));
-        QObject::connect(play, &QPushButton::clicked, box, [path] { Brixel::BXAlertSoundPlay(path); });
-        layout->addRow(QFileInfo(path).completeBaseName(), play);
-    }
+    layout->addRow(QObject::tr("Alert sounds"), alertSounds());
     return box;
 }
 
@@ -114,7 +128,6 @@ QWidget *createSpeechPage()
     auto *left = new QVBoxLayout;
     left->addWidget(speechQueue());
     left->addWidget(volumesAndSounds());
-    left->addStretch();
     layout->addLayout(left);
     layout->addWidget(mediaFacts());
     return page;
