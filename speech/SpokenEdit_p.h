@@ -2,8 +2,6 @@
 // Internal to Brixel's speech layer; not installed.
 #pragma once
 
-#include <Brixel/brixel_export.h>
-
 #include "../platform/ZARNRange.h"
 
 #include <QString>
@@ -22,6 +20,6 @@ struct TextEdit
  * replacement ends at the cursor, as it does after typing or pasting, whenever the text
  * behind the cursor is unchanged; otherwise the longest common start and end are kept.
  */
-BRIXEL_AUTOTEST_EXPORT TextEdit editBetween(const QString &before, const QString &after, qsizetype cursor);
+TextEdit editBetween(const QString &before, const QString &after, qsizetype cursor);
 
 } // namespace BrixelPrivate

@@ -1,32 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// Test doubles for the machine's clock and speech engine: time moves only when a test moves
-// it, and a voice speaks each string for a fixed time from the moment it starts.
+// Doubles for the machine's clock and speech engine: time moves only when a test moves it, and
+// a voice speaks each string for a fixed time from the moment it starts.
 #pragma once
 
 #include "platform/ZARNClock.h"
 #include "platform/ZARNSpeechEngine.h"
 
-#include <QList>
-#include <QString>
+#include <QStringList>
 
 #include <algorithm>
-#include <memory>
 
 class VirtualClock final : public ZARNClock
 {
 public:
     double now() const override { return time; }
     double time = 1.7e9;
-
-    /// Installs a virtual clock at \a start and returns it.
-    static VirtualClock *install(double start = 1.7e9)
-    {
-        auto clock = std::make_unique<VirtualClock>();
-        clock->time = start;
-        VirtualClock *raw = clock.get();
-        ZARNClock::setCurrent(std::move(clock));
-        return raw;
-    }
 };
 
 struct Utterance
@@ -39,44 +27,49 @@ struct Utterance
 class FakeSpeechEngine final : public ZARNSpeechEngine
 {
 public:
-    /// How long each string takes to say.
     double speakingTime = 0.55;
-    /// Every string started, by every voice, in order.
-    QList<Utterance> spoken;
+    QList<Utterance> spoken;   // by every voice, in order
 
     std::unique_ptr<ZARNSpeechVoice> createVoice() override { return std::make_unique<Voice>(*this); }
-    bool isAnyVoiceSpeaking() const override { return std::any_of(m_voiceEnds.begin(), m_voiceEnds.end(), isFuture); }
-
-    /// Installs a fake engine and returns it.
-    static FakeSpeechEngine *install()
+    bool isAnyVoiceSpeaking() const override
     {
-        auto engine = std::make_unique<FakeSpeechEngine>();
-        FakeSpeechEngine *raw = engine.get();
-        ZARNSpeechEngine::setCurrent(std::move(engine));
-        return raw;
+        return std::any_of(m_ends.begin(), m_ends.end(), [](const double *end) { return now() < *end; });
+    }
+    QStringList texts() const
+    {
+        QStringList result;
+        for (const Utterance &utterance : spoken)
+            result.append(utterance.text);
+        return result;
     }
 
 private:
     static double now() { return ZARNClock::current().now(); }
-    static bool isFuture(const double *end) { return now() < *end; }
 
-    class Voice final : public ZARNSpeechVoice
+    struct Voice final : ZARNSpeechVoice
     {
-    public:
-        explicit Voice(FakeSpeechEngine &engine) : m_engine(engine) { m_engine.m_voiceEnds.append(&m_end); }
-        ~Voice() override { m_engine.m_voiceEnds.removeOne(&m_end); }
-        bool isSpeaking() const override { return isFuture(&m_end); }
+        explicit Voice(FakeSpeechEngine &engine) : engine(engine) { engine.m_ends.append(&end); }
+        ~Voice() override { engine.m_ends.removeOne(&end); }
+        bool isSpeaking() const override { return now() < end; }
         void startSpeakingString(const QString &text) override
         {
-            m_end = now() + m_engine.speakingTime;
-            m_engine.spoken.append({text, now(), m_end});
+            end = now() + engine.speakingTime;
+            engine.spoken.append({text, now(), end});
         }
-        void stopSpeaking() override { m_end = std::min(m_end, now()); }
+        void stopSpeaking() override { end = std::min(end, now()); }
 
-    private:
-        FakeSpeechEngine &m_engine;
-        double m_end = 0;
+        FakeSpeechEngine &engine;
+        double end = 0;
     };
-
-    QList<const double *> m_voiceEnds;
+    QList<const double *> m_ends;
 };
+
+/// Installs a double of kind T as the current one of its seam Base, and returns it.
+template<typename T, typename Base = ZARNSpeechEngine>
+T *install()
+{
+    auto backEnd = std::make_unique<T>();
+    T *raw = backEnd.get();
+    Base::setCurrent(std::move(backEnd));
+    return raw;
+}
