@@ -111,7 +111,7 @@ bool BXQTSoundPlay(const QString &path, float volume)
         return false;
     ZARNSound *const playing = sound.release();
     QObject::connect(playing, &ZARNSound::durationKnown, playing, [playing](double seconds) {
-        const double milliseconds = std::ceil((std::max(seconds, 0.0) + PlayerTail) * 1000.0);
+        const double milliseconds = std::ceil(((seconds > 0.0 ? seconds : 0.0) + PlayerTail) * 1000.0);
         QTimer::singleShot(int(std::min(milliseconds, 2147483647.0)), playing, &QObject::deleteLater);
     });
     playing->play(volume);
