@@ -22,6 +22,7 @@ QWidget *createTablesPage();
 QWidget *createControlsPage();
 QWidget *createWindowsPage();
 QWidget *createDatesPage();
+QWidget *createSpeechPage();
 
 /// Every page, in the order the gallery lists them.
 QList<GalleryPage> galleryPages();

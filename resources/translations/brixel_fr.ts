@@ -43,5 +43,15 @@
         <extracomment>Unit word after a count in a spelled-out duration, as in "2 days, 3 hours".</extracomment>
         <translation>secondes</translation>
     </message>
+    <message>
+        <source>point</source>
+        <extracomment>Spoken for a typed full stop, as in "one point five".</extracomment>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>comma</source>
+        <extracomment>Spoken for a typed comma.</extracomment>
+        <translation>virgule</translation>
+    </message>
 </context>
 </TS>
