@@ -423,11 +423,6 @@ void ZARNChiseledTextField::setWordWrap(bool on)
     d->contentChanged(*this);
 }
 
-void ZARNChiseledTextField::setFont(const QFont &font)
-{
-    QLabel::setFont(unsmoothed(font));
-}
-
 void ZARNChiseledTextField::setAttributedStringValue(const ZARNAttributedString &value)
 {
     if (d->shadow)
@@ -511,6 +506,12 @@ void ZARNChiseledTextField::changeEvent(QEvent *event)
         applyEnabledState();
         break;
     case QEvent::FontChange:
+        // A font from QWidget::setFont() or a form's font property comes smoothed; setting it
+        // unsmoothed sends a second FontChange, which passes it on to the light copy.
+        if (font().styleStrategy() != QFont::NoAntialias) {
+            QLabel::setFont(unsmoothed(font()));
+            break;
+        }
         if (d->shadow)
             d->shadow->setFont(font());
         d->contentChanged(*this);

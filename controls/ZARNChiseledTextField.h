@@ -158,8 +158,6 @@ public:
 
     void setAlignment(Qt::Alignment alignment);
     void setWordWrap(bool on);
-    /// Sets \a font without font smoothing, on the copy and then on the field.
-    void setFont(const QFont &font);
 
     /**
      * Shows attributed text. The copy gets \a value with its foreground colour replaced by the

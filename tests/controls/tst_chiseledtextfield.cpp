@@ -94,19 +94,22 @@ void TestChiseledTextField::engraving_data()
     QTest::addColumn<bool>("active");
     QTest::addColumn<QColor>("text");
     QTest::addColumn<QColor>("shadow");
+    QTest::addColumn<bool>("asProperty");
 
     const QColor newText = greyOverWhite(0.149, 1.0);
     const QColor newShadow = greyOverWhite(0.8078, 0.9);
     const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-    QTest::newRow("new look") << 0x1050u << left << false << true << newText << newShadow;
+    QTest::newRow("new look") << 0x1050u << left << false << true << newText << newShadow << false;
     QTest::newRow("classic look") << 0x104Fu << left << false << true << greyOverWhite(0.1, 1.0)
-                                  << greyOverWhite(0.96, 0.9);
+                                  << greyOverWhite(0.96, 0.9) << false;
     QTest::newRow("inactive, translucent text") << 0x1050u << left << false << false << greyOverWhite(0.3, 0.9)
-                                                << greyOverWhite(0.8078, 0.7);
+                                                << greyOverWhite(0.8078, 0.7) << false;
     QTest::newRow("right aligned") << 0x1050u << Qt::Alignment(Qt::AlignRight | Qt::AlignBottom) << false << true
-                                   << newText << newShadow;
+                                   << newText << newShadow << false;
     QTest::newRow("attributed") << 0x1050u << Qt::Alignment(Qt::AlignHCenter | Qt::AlignTop) << true << true
-                                << newText << newShadow;
+                                << newText << newShadow << false;
+    QTest::newRow("font set as a property, as forms do") << 0x1050u << left << false << true << newText
+                                                         << newShadow << true;
 }
 
 void TestChiseledTextField::engraving()
@@ -117,11 +120,16 @@ void TestChiseledTextField::engraving()
     QFETCH(bool, active);
     QFETCH(QColor, text);
     QFETCH(QColor, shadow);
+    QFETCH(bool, asProperty);
     Brixel::ZARNSetSystemVersion(version);
 
     ZARNChiseledTextField field;
     field.resize(160, 40);
-    field.setFont(QFont(u"DejaVu Sans"_s, 18, QFont::Bold));
+    const QFont font(u"DejaVu Sans"_s, 18, QFont::Bold);
+    if (asProperty)
+        field.setProperty("font", font);
+    else
+        field.setFont(font);
     field.setAlignment(alignment);
     if (attributed)
         field.setAttributedStringValue(
