@@ -33,7 +33,8 @@ public:
  * \endcode
  *
  * Items are the menu's QActions; an item's tag is its data() as an int. Choosing an item in
- * the menu selects it. The menu is titled "Untitled"; QActions are never enabled or disabled
+ * the menu only triggers its action: the selection and the title stay until the application
+ * selects an item (typically from the menu's triggered() signal). The menu is titled "Untitled"; QActions are never enabled or disabled
  * by the menu itself, so items stay as the application sets them. Right clicks are ignored,
  * and a disabled button neither asks its delegate nor opens the menu.
  *
