@@ -45,6 +45,8 @@ class BRIXEL_EXPORT ZARNPopUpButton : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(int selectedItemIndex READ selectedItemIndex)
+    // A form's "text" reaches setTitle(), which a subclass may override to lay itself out.
+    Q_PROPERTY(QString text READ title WRITE setTitle)
 public:
     explicit ZARNPopUpButton(QWidget *parent = nullptr);
     ~ZARNPopUpButton() override;
