@@ -466,6 +466,13 @@ void ZARNChiseledTextField::deactivate()
     d->active = false;
 }
 
+void ZARNChiseledTextField::setEnabled(bool enabled)
+{
+    // QWidget sends no EnabledChange when the state stays, but the colours are applied anyway.
+    QLabel::setEnabled(enabled);
+    applyEnabledState();
+}
+
 void ZARNChiseledTextField::applyEnabledState()
 {
     // Enabling shows the active colours whatever isActive() says, until activity next changes.

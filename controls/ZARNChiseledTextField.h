@@ -185,6 +185,11 @@ public Q_SLOTS:
     void activate();
     /// Shows the inactive colours if the field is enabled, and marks it inactive in any case.
     void deactivate();
+    /**
+     * Enables or disables the field, then shows the colours of its state: the disabled ones, or
+     * the active ones whatever isActive() says, also when the state did not change.
+     */
+    void setEnabled(bool enabled);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -177,6 +177,8 @@ void TestChiseledTextField::states_data()
     QTest::newRow("enabled again in an inactive window looks active")
         << Operation([](auto &f) { f.deactivate(); f.setEnabled(false); f.setEnabled(true); }) << false << active
         << shadowActive;
+    QTest::newRow("enabling an enabled field looks active")
+        << Operation([](auto &f) { f.deactivate(); f.setEnabled(true); }) << false << active << shadowActive;
     QTest::newRow("a new colour waits for activity")
         << Operation([](auto &f) { f.setActiveColor(Qt::red); }) << true << active << shadowActive;
     QTest::newRow("and shows at the next activate")
