@@ -523,9 +523,6 @@ void ZARNChiseledTextField::changeEvent(QEvent *event)
             d->shadow->setFont(font());
         d->contentChanged(*this);
         break;
-    case QEvent::ParentChange:
-        d->activity->follow();
-        break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:

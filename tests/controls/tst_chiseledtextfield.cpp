@@ -284,6 +284,11 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
     moved->setParent(window.get());
     QCoreApplication::sendEvent(window.get(), &deactivation);
     QVERIFY(!moved->isActive());
+    // So does one whose container is moved into the window from one it did not follow.
+    QMainWindow elsewhere;
+    auto *container = new QWidget(&elsewhere);
+    auto *nested = new ZARNChiseledTextField(container);
+    container->setParent(window.get());
 
     // A window-modal dialog over the window deactivates the field too.
     QDialog sheet(window.get());
@@ -292,6 +297,7 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
     sheet.show();
     QTRY_VERIFY(!field->isActive());
     QCOMPARE(field->textColor(), field->inactiveColor());
+    QVERIFY(!nested->isActive());
 }
 
 void TestChiseledTextField::attachmentDrawnOnce()
