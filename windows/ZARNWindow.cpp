@@ -221,8 +221,12 @@ void ZARNWindow::windowWillResize(QSize oldSize, QSize proposedSize)
 
 void ZARNWindow::resizeEvent(QResizeEvent *event)
 {
-    if (!d->settingFrame)
+    // Only the window system's resizes are the user's live resize; any other resize (resize(),
+    // setGeometry(), a layout) is a frame change, which always rebuilds.
+    if (event->spontaneous())
         windowWillResize(event->oldSize(), event->size());
+    else if (!d->settingFrame)
+        updateBackgroundColorForSize(event->size());
     QWidget::resizeEvent(event);
     refreshResizeIndicator();
 }
