@@ -126,6 +126,10 @@ void TestWindow::backgroundOnlyInTheClassicLook()
     window.setBackgroundMode(ZARNWindow::BackgroundMode::UpperHalf);
     QCOMPARE(window.palette().window().textureImage().height(), 70);
     QCOMPARE(qRed(window.palette().window().textureImage().pixel(0, 0)), 99);
+    Brixel::ZARNSetSystemVersion(0x1050);
+    QCOMPARE(window.palette().window().style(), Qt::SolidPattern);
+    Brixel::ZARNSetSystemVersion(0x1039);
+    QCOMPARE(window.palette().window().textureImage().height(), 70);
     window.setBackgroundMode(ZARNWindow::BackgroundMode::None);
     QCOMPARE(window.palette().window().style(), Qt::SolidPattern);
 
