@@ -205,12 +205,14 @@ void BXAlert::fitButton(int number, const QString &title)
     const bool shown = !title.isEmpty();
     button.setEnabled(shown);
     button.setHidden(!shown);
-    const int oldWidth = button.width();
+    const QRect before = button.geometry();
     button.setText(title);
     const QSize fitted = button.sizeHint();
-    button.resize(fitted.width() + 14, fitted.height());
+    // Sized from its bottom-left corner, so the bottom edge stays when the height changes.
+    const QSize size(fitted.width() + 14, fitted.height());
+    button.setGeometry(QRect(QPoint(before.x(), before.bottom() + 1 - size.height()), size));
     // The right edge stays; the buttons to the left move over by the same amount.
-    const int growth = button.width() - oldWidth;
+    const int growth = button.width() - before.width();
     for (int left = number; left <= 3; ++left) {
         QPushButton &moved = *d->buttons[left - 1];
         moved.move(moved.x() - growth, moved.y());
