@@ -131,6 +131,12 @@ void TestPanels::alertRunsReturnTheTag()
     QCOMPARE(alert->window()->height(), height + 10);
     QCOMPARE(alert->window()->height() - alert->button1()->y(), buttonFromBottom);
     QCOMPARE(alert->window()->windowModality(), Qt::WindowModal);
+    // The alert keeps its window when a former sheet parent goes.
+    auto *gone = new QWidget;
+    QTimer::singleShot(0, alert->button1(), &QPushButton::click);
+    alert->runAsSheetForWindow(gone);
+    delete gone;
+    QVERIFY(alert->window());
 }
 
 void TestPanels::progressWindow()
