@@ -146,10 +146,22 @@ void TestDateRangePanel::ok_data()
         qobject_cast<QLineEdit *>(p.toObject())->setText(u"soon"_s);
         p.fromObject()->setFocus();
     }) << true << u"2024-01-02"_s << u"2024-05-15"_s;
-    QTest::newRow("line edits, the focused editor refuses") << 0x103Fu << Edit([](BXDateRangePanel &p) {
-        qobject_cast<QLineEdit *>(p.fromObject())->setText(u"31/2/24"_s);
-        p.fromObject()->setFocus();
+    const auto focusedFrom = [](const QString &text) {
+        return Edit([text](BXDateRangePanel &p) {
+            qobject_cast<QLineEdit *>(p.fromObject())->setText(text);
+            p.fromObject()->setFocus();
+        });
+    };
+    QTest::newRow("line edits, the focused editor refuses") << 0x103Fu << focusedFrom(u"31/2/24"_s) << false
+                                                            << u"2024-01-02"_s << u"2024-03-04"_s;
+    QTest::newRow("line edits, typed unreadable text refuses after a click") << 0x103Fu << Edit([](BXDateRangePanel &p) {
+        auto *field = qobject_cast<QLineEdit *>(p.fromObject());
+        field->clear();
+        QTest::keyClicks(field, u"soon"_s);
+        p.okButton()->setFocus();
     }) << false << u"2024-01-02"_s << u"2024-03-04"_s;
+    QTest::newRow("line edits, readable text in another form") << 0x103Fu << focusedFrom(u"09/06/24"_s) << true
+                                                               << u"2024-06-09"_s << u"2024-03-04"_s;
 }
 
 void TestDateRangePanel::ok()
