@@ -109,14 +109,16 @@ void TestLegacyDatePicker::showsTheDateOnly()
     BXLegacyDatePicker picker;
     QVERIFY(picker.monthField()->text().isEmpty());
     const ZARNCalendarDate date = ZARNCalendarDate::dateWithYear(2007, 3, 5, 0, 0, 0);
+    // Typing is logged, the date's own text is not, and typing never changes the date.
+    static QStringList logged;
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &message) { logged.append(message); });
     picker.setDate(date);
+    QTest::keyClicks(picker.dayField(), u"9"_s);
+    qInstallMessageHandler(previous);
+    QCOMPARE(logged, QStringList{u"text changed in \"day\" : \"59\""_s});
     QCOMPARE(picker.monthField()->text(), u"3"_s);
-    QCOMPARE(picker.dayField()->text(), u"5"_s);
     QCOMPARE(picker.yearField()->text(), u"2007"_s);
-
-    // Typing is logged, and never changes the date.
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"text changed in \"day\""_s));
-    picker.dayField()->setText(u"9"_s);
     picker.syncDateFromInterface();
     QCOMPARE(picker.date().dayOfMonth(), 5);
 }
