@@ -62,6 +62,7 @@ void TestLegacyDatePicker::layout_data()
     QTest::newRow("year, month, day") << u"%Y-%m-%d"_s << QList<int>{167, 225, 99, 142, 200, 160, 218, 91};
     QTest::newRow("year, day, month") << u"%Y %d %B"_s << QList<int>{225, 167, 99, 142, 200, 218, 160, 91};
     QTest::newRow("no order moves nothing") << u"%H:%M"_s << QList<int>{99, 157, 215, 132, 190, 92, 150, 207};
+    QTest::newRow("no order in an empty format") << u""_s << QList<int>{99, 157, 215, 132, 190, 92, 150, 207};
 }
 
 void TestLegacyDatePicker::layout()
@@ -78,7 +79,7 @@ void TestLegacyDatePicker::layout()
     // that orders nothing, its fields stay where they were made.
     ZARNUserDefaults::setObject(format, u"NSShortDateFormatString"_s);
     const BXLegacyDatePicker fresh;
-    QCOMPARE(positions(fresh), QTest::currentDataTag() == "no order moves nothing"_L1 ? QList<int>(8, 0) : x);
+    QCOMPARE(positions(fresh), QByteArray(QTest::currentDataTag()).startsWith("no order") ? QList<int>(8, 0) : x);
 }
 
 void TestLegacyDatePicker::keyboardFollowsTheOrder()
