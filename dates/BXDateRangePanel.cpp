@@ -75,7 +75,7 @@ std::optional<ZARNCalendarDate> BXDateRangePanelPrivate::read(const QWidget *con
         const QDateTime value = control ? control->property("dateValue").toDateTime() : QDateTime();
         if (!value.isValid())
             return std::nullopt;
-        return ZARNCalendarDate::dateWithTimeIntervalSince1970(double(value.toSecsSinceEpoch()));
+        return ZARNCalendarDate::fromDateTime(value);
     }
     const auto *field = qobject_cast<const QLineEdit *>(control);
     return field ? ZARNCalendarDate::dateWithString(field->text(), formatter->dateFormat()) : std::nullopt;
@@ -211,7 +211,7 @@ bool BXDateRangePanel::run()
         if (!control)
             continue;
         if (usesDatePickers())
-            control->setProperty("dateValue", QDateTime::fromSecsSinceEpoch(qint64(date.timeIntervalSince1970())));
+            control->setProperty("dateValue", date.toDateTime());
         else if (auto *field = qobject_cast<QLineEdit *>(control); field && d->formatter)
             field->setText(d->text(date));
     }

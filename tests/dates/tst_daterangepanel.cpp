@@ -53,6 +53,7 @@ private Q_SLOTS:
     void layoutOfRealControls();
     void ok_data();
     void ok();
+    void pickersKeepTimeAndZone();
     void missingPlugin();
 };
 
@@ -196,6 +197,16 @@ void TestDateRangePanel::ok()
         QCOMPARE(ymd(panel.fromDate()), from);
         QCOMPARE(ymd(panel.toDate()), to);
     }
+}
+
+void TestDateRangePanel::pickersKeepTimeAndZone()
+{
+    Brixel::ZARNSetSystemVersion(0x1040);
+    const ZARNCalendarDate from = ZARNCalendarDate::dateWithYear(2024, 1, 2, 23, 30, 0, QTimeZone(9 * 3600));
+    BXDateRangePanel panel(QPointF(), from, day(2024, 3, 4));
+    QTimer::singleShot(0, panel.okButton(), &QPushButton::click);
+    QVERIFY(panel.run());
+    QCOMPARE(panel.fromDate(), from);
 }
 
 void TestDateRangePanel::missingPlugin()
