@@ -24,6 +24,7 @@ ActivityFollower::ActivityFollower(QWidget *control, std::function<void()> activ
     , m_activate(std::move(activate))
     , m_deactivate(std::move(deactivate))
 {
+    m_control->installEventFilter(this);
 }
 
 void ActivityFollower::follow()
@@ -48,7 +49,12 @@ void ActivityFollower::follow()
 
 bool ActivityFollower::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_windows.contains(watched)) {
+    // The control gets a ParentChange when it moves itself, and a Show in its new window when
+    // one of its ancestors moved.
+    if (watched == m_control) {
+        if (event->type() == QEvent::ParentChange || event->type() == QEvent::Show)
+            follow();
+    } else if (m_windows.contains(watched)) {
         if (event->type() == QEvent::WindowActivate)
             m_activate();
         else if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked)

@@ -16,7 +16,8 @@ namespace BrixelPrivate {
 
 /**
  * Tells a chiseled control when to show its active and its inactive look. follow() looks at
- * the control's window at that moment: a window that is exactly a QWidget or a QDialog is
+ * the control's window at that moment; it runs again when the control is re-parented or shown,
+ * so moving the control or any of its ancestors into another window is noticed: a window that is exactly a QWidget or a QDialog is
  * followed itself (activation, deactivation, and a modal dialog blocking it); any other
  * window, or none, means following the application's state. Earlier choices stay in force, so a
  * control moved between windows follows all of them, which does no harm since activating or

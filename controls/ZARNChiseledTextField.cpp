@@ -423,11 +423,6 @@ void ZARNChiseledTextField::setWordWrap(bool on)
     d->contentChanged(*this);
 }
 
-void ZARNChiseledTextField::setFont(const QFont &font)
-{
-    QLabel::setFont(unsmoothed(font));
-}
-
 void ZARNChiseledTextField::setAttributedStringValue(const ZARNAttributedString &value)
 {
     if (d->shadow)
@@ -471,6 +466,13 @@ void ZARNChiseledTextField::deactivate()
     d->active = false;
 }
 
+void ZARNChiseledTextField::setEnabled(bool enabled)
+{
+    // QWidget sends no EnabledChange when the state stays, but the colours are applied anyway.
+    QLabel::setEnabled(enabled);
+    applyEnabledState();
+}
+
 void ZARNChiseledTextField::applyEnabledState()
 {
     // Enabling shows the active colours whatever isActive() says, until activity next changes.
@@ -511,12 +513,15 @@ void ZARNChiseledTextField::changeEvent(QEvent *event)
         applyEnabledState();
         break;
     case QEvent::FontChange:
+        // A font from QWidget::setFont() or a form's font property comes smoothed; setting it
+        // unsmoothed sends a second FontChange, which passes it on to the light copy.
+        if (font().styleStrategy() != QFont::NoAntialias) {
+            QLabel::setFont(unsmoothed(font()));
+            break;
+        }
         if (d->shadow)
             d->shadow->setFont(font());
         d->contentChanged(*this);
-        break;
-    case QEvent::ParentChange:
-        d->activity->follow();
         break;
     case QEvent::PaletteChange:
     case QEvent::StyleChange:

@@ -158,8 +158,6 @@ public:
 
     void setAlignment(Qt::Alignment alignment);
     void setWordWrap(bool on);
-    /// Sets \a font without font smoothing, on the copy and then on the field.
-    void setFont(const QFont &font);
 
     /**
      * Shows attributed text. The copy gets \a value with its foreground colour replaced by the
@@ -187,6 +185,11 @@ public Q_SLOTS:
     void activate();
     /// Shows the inactive colours if the field is enabled, and marks it inactive in any case.
     void deactivate();
+    /**
+     * Enables or disables the field, then shows the colours of its state: the disabled ones, or
+     * the active ones whatever isActive() says, also when the state did not change.
+     */
+    void setEnabled(bool enabled);
 
 protected:
     void paintEvent(QPaintEvent *event) override;

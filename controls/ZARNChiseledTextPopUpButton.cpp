@@ -329,10 +329,3 @@ void ZARNChiseledTextPopUpButton::mousePressEvent(QMouseEvent *event)
     if (alive)
         d->mouseIsDown = false;
 }
-
-void ZARNChiseledTextPopUpButton::changeEvent(QEvent *event)
-{
-    ZARNPopUpButton::changeEvent(event);
-    if (event->type() == QEvent::ParentChange)
-        d->activity->follow();
-}

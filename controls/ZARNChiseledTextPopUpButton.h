@@ -102,7 +102,6 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     void init(const QString &title);

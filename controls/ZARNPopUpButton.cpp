@@ -36,8 +36,12 @@ ZARNPopUpButton::ZARNPopUpButton(QWidget *parent)
     , d(std::make_unique<ZARNPopUpButtonPrivate>())
 {
     d->menu = std::make_unique<QMenu>(QStringLiteral("Untitled"));
-    connect(d->menu.get(), &QMenu::triggered, this,
-            [this](QAction *item) { selectItemAtIndex(int(d->menu->actions().indexOf(item))); });
+    // Triggering a checkable item toggles its check mark, which shows the selection instead:
+    // the chosen item's mark says again whether it is the selected one.
+    connect(d->menu.get(), &QMenu::triggered, this, [this](QAction *item) {
+        if (item->isCheckable())
+            item->setChecked(d->menu->actions().indexOf(item) == d->selectionIndex);
+    });
 }
 
 ZARNPopUpButton::~ZARNPopUpButton() = default;

@@ -33,7 +33,8 @@ public:
  * \endcode
  *
  * Items are the menu's QActions; an item's tag is its data() as an int. Choosing an item in
- * the menu selects it. The menu is titled "Untitled"; QActions are never enabled or disabled
+ * the menu only triggers its action: the selection and the title stay until the application
+ * selects an item (typically from the menu's triggered() signal). The menu is titled "Untitled"; QActions are never enabled or disabled
  * by the menu itself, so items stay as the application sets them. Right clicks are ignored,
  * and a disabled button neither asks its delegate nor opens the menu.
  *
@@ -44,6 +45,8 @@ class BRIXEL_EXPORT ZARNPopUpButton : public QPushButton
 {
     Q_OBJECT
     Q_PROPERTY(int selectedItemIndex READ selectedItemIndex)
+    // A form's "text" reaches setTitle(), which a subclass may override to lay itself out.
+    Q_PROPERTY(QString text READ title WRITE setTitle)
 public:
     explicit ZARNPopUpButton(QWidget *parent = nullptr);
     ~ZARNPopUpButton() override;

@@ -46,8 +46,10 @@ QString Brixel::DateFormatStringToShortestDateFormatString(const QString &format
 
 QString Brixel::userShortDateFormat()
 {
-    const QString stored = ZARNUserDefaults::stringForKey(u"NSShortDateFormatString"_s);
-    return stored.isEmpty() ? localeShortDateFormat() : stored;
+    // Only a missing default falls back to the locale; a stored empty format is the user's.
+    const QString key = u"NSShortDateFormatString"_s;
+    return ZARNUserDefaults::objectForKey(key).isValid() ? ZARNUserDefaults::stringForKey(key)
+                                                         : localeShortDateFormat();
 }
 
 QString Brixel::localeShortDateFormat(const QLocale &locale)

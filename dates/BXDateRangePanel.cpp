@@ -42,6 +42,7 @@ public:
     QLineEdit *makeDateField(QWidget *container) const;
     QString text(const ZARNCalendarDate &date) const;
     std::optional<ZARNCalendarDate> read(const QWidget *control) const;
+    bool refuses(const QWidget *control) const;
 
     QPointer<QWidget> fromObject;
     QPointer<QWidget> toObject;
@@ -74,10 +75,19 @@ std::optional<ZARNCalendarDate> BXDateRangePanelPrivate::read(const QWidget *con
         const QDateTime value = control ? control->property("dateValue").toDateTime() : QDateTime();
         if (!value.isValid())
             return std::nullopt;
-        return ZARNCalendarDate::dateWithTimeIntervalSince1970(double(value.toSecsSinceEpoch()));
+        return ZARNCalendarDate::fromDateTime(value);
     }
     const auto *field = qobject_cast<const QLineEdit *>(control);
     return field ? ZARNCalendarDate::dateWithString(field->text(), formatter->dateFormat()) : std::nullopt;
+}
+
+bool BXDateRangePanelPrivate::refuses(const QWidget *control) const
+{
+    // Text being edited or typed by the user that the formatter cannot read keeps the panel
+    // open, wherever the focus went (a click on OK takes it); text set by the program does
+    // not, and reads as today.
+    const auto *field = qobject_cast<const QLineEdit *>(control);
+    return field && (field->hasFocus() || field->isModified()) && !read(field);
 }
 
 BXDateRangePanel::BXDateRangePanel(QPointF, const std::optional<ZARNCalendarDate> &from,
@@ -201,7 +211,7 @@ bool BXDateRangePanel::run()
         if (!control)
             continue;
         if (usesDatePickers())
-            control->setProperty("dateValue", QDateTime::fromSecsSinceEpoch(qint64(date.timeIntervalSince1970())));
+            control->setProperty("dateValue", date.toDateTime());
         else if (auto *field = qobject_cast<QLineEdit *>(control); field && d->formatter)
             field->setText(d->text(date));
     }
@@ -223,8 +233,7 @@ void BXDateRangePanel::internationalize()
 
 void BXDateRangePanel::OK_Button()
 {
-    // The focused editor keeps the panel open while it holds text it cannot read.
-    if (const auto *editing = qobject_cast<const QLineEdit *>(focusWidget()); editing && !editing->hasAcceptableInput())
+    if (d->refuses(d->fromObject) || d->refuses(d->toObject))
         return;
     if (d->loop)
         d->loop->exit(1);

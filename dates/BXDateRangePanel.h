@@ -60,7 +60,8 @@ public:
     void internationalize();
 
 public Q_SLOTS:
-    /// Ends run() with both dates stored, unless the focused editor holds unreadable text.
+    /// Ends run() with both dates stored, unless an editor that has the focus or that the user
+    /// typed in holds text the formatter cannot read.
     void OK_Button();
 
 protected:

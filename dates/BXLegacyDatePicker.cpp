@@ -122,7 +122,8 @@ BXLegacyDatePicker::BXLegacyDatePicker(QWidget *parent)
         const ZARNRect &below = d->frame(caption);
         const QSize size = BrixelPrivate::lineEditSizeFor(*entry, sample);
         d->frame(entry) = ZARNRect(0, below.maxY() + 2.0f, float(size.width()), float(size.height()));
-        connect(entry, &QLineEdit::textChanged, this, [entry](const QString &text) {
+        // Only the user's edits are logged, not the text setDate() puts in.
+        connect(entry, &QLineEdit::textEdited, this, [entry](const QString &text) {
             qCInfo(lcDatePicker) << "text changed in" << entry->objectName() << ":" << text;
         });
         return entry;

@@ -28,8 +28,8 @@ class QLineEdit;
  * three kinds of field cannot be ordered is stored but moves nothing.
  *
  * The fields only show: date() is the date last given to setDate() (now, at first) and typing
- * does not change it. Each change of a field's text is logged (category "brixel.dates", at
- * info level). The picker's size hint encloses its fields.
+ * does not change it. Each edit the user makes in a field is logged (category "brixel.dates",
+ * at info level); the text setDate() puts in is not. The picker's size hint encloses its fields.
  */
 class BRIXEL_EXPORT BXLegacyDatePicker : public QWidget
 {

@@ -41,9 +41,8 @@ QStringList datePickerPluginSearchPaths()
     if (replacedPaths())
         return *replacedPaths();
     QStringList paths = QCoreApplication::libraryPaths();
-#ifdef BRIXEL_BUILD_PLUGIN_DIR
+    paths.append(QStringLiteral(BRIXEL_INSTALL_PLUGIN_DIR));
     paths.append(QStringLiteral(BRIXEL_BUILD_PLUGIN_DIR));
-#endif
     return paths;
 }
 

@@ -21,8 +21,8 @@ namespace BrixelPrivate {
  */
 BRIXEL_AUTOTEST_EXPORT QWidget *createTextDatePicker(QWidget *parent);
 
-/// The application's library paths (QCoreApplication::libraryPaths()), then the folder the
-/// library's own build put its plug-ins in.
+/// The application's library paths (QCoreApplication::libraryPaths()), then the plug-in folder
+/// of the prefix the library is installed to, then the folder its own build put its plug-ins in.
 BRIXEL_AUTOTEST_EXPORT QStringList datePickerPluginSearchPaths();
 
 /// Replaces the search paths (an empty list finds no plug-in), or with std::nullopt restores

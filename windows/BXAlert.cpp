@@ -205,12 +205,14 @@ void BXAlert::fitButton(int number, const QString &title)
     const bool shown = !title.isEmpty();
     button.setEnabled(shown);
     button.setHidden(!shown);
-    const int oldWidth = button.width();
+    const QRect before = button.geometry();
     button.setText(title);
     const QSize fitted = button.sizeHint();
-    button.resize(fitted.width() + 14, fitted.height());
+    // Sized from its bottom-left corner, so the bottom edge stays when the height changes.
+    const QSize size(fitted.width() + 14, fitted.height());
+    button.setGeometry(QRect(QPoint(before.x(), before.bottom() + 1 - size.height()), size));
     // The right edge stays; the buttons to the left move over by the same amount.
-    const int growth = button.width() - oldWidth;
+    const int growth = button.width() - before.width();
     for (int left = number; left <= 3; ++left) {
         QPushButton &moved = *d->buttons[left - 1];
         moved.move(moved.x() - growth, moved.y());
@@ -264,13 +266,18 @@ int BXAlert::runAsSheetForWindow(QWidget *parent)
     ZARNWindow &window = *d->window;
     moveChildrenBelow(window, 0, 5, nullptr);
     growAtTop(window, 5);
-    if (parent) {
-        window.setParent(parent->window(), Qt::Sheet);
-        window.setWindowModality(Qt::WindowModal);
-    } else {
+    if (!parent) {
         window.setWindowModality(Qt::ApplicationModal);
+        return run();
     }
-    return run();
+    const Qt::WindowFlags flags = window.windowFlags();
+    window.setParent(parent->window(), Qt::Sheet);
+    window.setWindowModality(Qt::WindowModal);
+    const int result = run();
+    // The window belongs to the alert again, so the parent's end does not take it along.
+    if (d->window)
+        d->window->setParent(nullptr, flags);
+    return result;
 }
 
 bool BXAlert::eventFilter(QObject *watched, QEvent *event)
@@ -289,9 +296,12 @@ int BXAlert::run()
     QEventLoop loop;
     d->loop = &loop;
     d->result = 0;
+    // A sheet's window goes with its parent; the run ends then, with no button pressed.
+    connect(d->window, &QObject::destroyed, &loop, &QEventLoop::quit);
     d->window->show();
     loop.exec();
     d->loop = nullptr;
-    d->window->hide();
+    if (d->window)
+        d->window->hide();
     return d->result;
 }

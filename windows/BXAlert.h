@@ -83,7 +83,8 @@ public:
     /// Beeps, makes the window 5 pixels taller (its contents keep their distance from its
     /// bottom, every run), shows it modal for \a parent's window until a button is pressed,
     /// hides it and returns that button's tag. A null \a parent runs it as runModal() does,
-    /// without centring.
+    /// without centring. The window is a child of \a parent's window only during the run; if
+    /// that window is destroyed meanwhile, the run ends and returns 0.
     int runAsSheetForWindow(QWidget *parent);
 
 protected:

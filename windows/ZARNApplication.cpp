@@ -18,6 +18,7 @@ Input inputKind(const QEvent &event)
                                                                                   : Input::UserInput;
     case QEvent::MouseButtonRelease:
     case QEvent::KeyPress:
+    case QEvent::Shortcut:
         return Input::UserInput;
     case QEvent::MouseMove:
         return static_cast<const QMouseEvent &>(event).buttons() != Qt::NoButton ? Input::UserInput : Input::None;
@@ -73,8 +74,10 @@ int ZARNApplication::requestUserAttention(ZARNUserAttention::RequestType type)
 bool ZARNApplication::notify(QObject *receiver, QEvent *event)
 {
     // An event from the window system reaches its window first, and the window hands it on
-    // to a widget with a second notify(); only the first counts.
-    if (receiver && event && event->spontaneous() && receiver->isWindowType()) {
+    // to a widget with a second notify(); only the first counts. A key press that a shortcut
+    // takes never reaches a window: it arrives as the shortcut's Shortcut event.
+    if (receiver && event
+        && ((event->spontaneous() && receiver->isWindowType()) || event->type() == QEvent::Shortcut)) {
         const Input input = inputKind(*event);
         if (input == Input::MouseDown)
             Q_EMIT mouseDown();

@@ -30,13 +30,14 @@ inline constexpr QLatin1StringView ZARNApplicationUserInputNotification("ZARNApp
  * \endcode
  *
  * Only events that arrive from the window system count, when they reach their window and
- * before the window hands them to a widget:
+ * before the window hands them to a widget; a key press that a shortcut takes counts when the
+ * shortcut gets it:
  *
  * | event                                               | mouseDown() | userInput() |
  * |-----------------------------------------------------|-------------|-------------|
  * | left button press                                   | first       | then        |
  * | other button press, any release, move with a button | -           | yes         |
- * | key press (auto-repeats included)                   | -           | yes         |
+ * | key press (auto-repeats and shortcuts' keys too)    | -           | yes         |
  * | key release, move without buttons, wheel, others    | -           | -           |
  *
  * Both signals are emitted synchronously, before the event is delivered.

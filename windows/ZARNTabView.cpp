@@ -30,6 +30,8 @@ QRect childrenExtent(const QWidget &page)
 
 // Tabs whose page is a ZARNTabViewItem with an image show it before the label, in a square as
 // high as the image, the label moved right by that height + 2 and the tab widened to match.
+// The style draws such a tab without its text; the bar draws the image at the start of the
+// label's rectangle and the text after it.
 class ImageTabBar : public QTabBar
 {
 public:
@@ -44,6 +46,13 @@ protected:
         return hint;
     }
 
+    void initStyleOption(QStyleOptionTab *option, int index) const override
+    {
+        QTabBar::initStyleOption(option, index);
+        if (hasImage(index))
+            option->text.clear();
+    }
+
     void paintEvent(QPaintEvent *event) override
     {
         QTabBar::paintEvent(event);
@@ -52,17 +61,18 @@ protected:
             if (!hasImage(index))
                 continue;
             QStyleOptionTab option;
-            initStyleOption(&option, index);
+            QTabBar::initStyleOption(&option, index);
             const QRect label = style()->subElementRect(QStyle::SE_TabBarTabText, &option, this);
             const QImage image = item(index)->image();
             const int side = qRound(image.deviceIndependentSize().height());
-            // The label as the style places it in the widened tab, less the image's room.
-            const QRect text(label.x() - (side + 2) / 2, label.y(), label.width(), label.height());
-            QPoint origin(text.x(), text.y() + 1);
-            if (text.height() > side)
-                origin = QPoint(int(std::trunc(text.x() + (text.height() - side) * 0.5)),
-                                int(std::trunc((text.height() - side) * 0.5 + text.y())) + 1);
+            QPoint origin(label.x(), label.y() + 1);
+            if (label.height() > side)
+                origin = QPoint(int(std::trunc(label.x() + (label.height() - side) * 0.5)),
+                                int(std::trunc((label.height() - side) * 0.5 + label.y())) + 1);
             painter.drawImage(QRect(origin, QSize(side, side)), image);
+            style()->drawItemText(&painter, label.translated(side + 2, 0), Qt::AlignLeft | Qt::AlignVCenter
+                                  | Qt::TextShowMnemonic, option.palette, option.state & QStyle::State_Enabled,
+                                  option.text, QPalette::WindowText);
         }
     }
 
@@ -105,8 +115,11 @@ QImage ZARNTabViewItem::image() const
 void ZARNTabViewItem::setImage(const QImage &image)
 {
     d->image = image;
-    if (QWidget *tabs = parentWidget() ? parentWidget()->parentWidget() : nullptr)
-        tabs->update();
+    // The page sits in the tab widget's stack. Setting a tab's text again is how a QTabBar is
+    // told to lay its tabs out anew, here for the image's room.
+    auto *tabs = qobject_cast<QTabWidget *>(parentWidget() ? parentWidget()->parentWidget() : nullptr);
+    if (const int index = tabs ? tabs->indexOf(this) : -1; index >= 0)
+        tabs->setTabText(index, tabs->tabText(index));
 }
 
 QWidget *ZARNTabViewItem::customView() const

@@ -70,6 +70,8 @@ ZARNWindow::ZARNWindow(QWidget *parent, Qt::WindowFlags flags)
     d->resizeIndicatorView->setPixmap(QPixmap::fromImage(indicator));
     d->resizeIndicatorView->resize(indicator.size());
     d->resizeIndicatorView->hide();
+    connect(ZARNSystemVersionNotifier::instance(), &ZARNSystemVersionNotifier::systemVersionChanged, this,
+            &ZARNWindow::followSystemVersion);
 }
 
 ZARNWindow::~ZARNWindow()
@@ -106,6 +108,15 @@ void ZARNWindow::updateBackgroundColorForSize(QSize size)
     }
     setBackgroundPattern(BrixelPrivate::windowBackgroundPattern(backgroundImage(), int(d->backgroundMode),
                                                                 float(size.height())));
+}
+
+void ZARNWindow::followSystemVersion()
+{
+    // A look without backgrounds drops the classic one; the classic look builds it for the size.
+    if (drawsBackgrounds())
+        updateBackgroundColorForSize(size());
+    else
+        setBackgroundPattern(QImage());
 }
 
 void ZARNWindow::updateBackgroundColor()
@@ -221,8 +232,12 @@ void ZARNWindow::windowWillResize(QSize oldSize, QSize proposedSize)
 
 void ZARNWindow::resizeEvent(QResizeEvent *event)
 {
-    if (!d->settingFrame)
+    // Only the window system's resizes are the user's live resize; any other resize (resize(),
+    // setGeometry(), a layout) is a frame change, which always rebuilds.
+    if (event->spontaneous())
         windowWillResize(event->oldSize(), event->size());
+    else if (!d->settingFrame)
+        updateBackgroundColorForSize(event->size());
     QWidget::resizeEvent(event);
     refreshResizeIndicator();
 }

@@ -28,9 +28,11 @@ extern BRIXEL_EXPORT QImage ZARNWindow_BackgroundImage;
  * \endcode
  *
  * The backgrounds belong to the classic look: with a system version code above 0x104F the
- * window keeps its palette's background. In the classic look the background is a one-column
- * pattern as high as the window, set as the palette's Window brush and rebuilt when the
- * window's size changes:
+ * window keeps its palette's background, and a change of the code drops or rebuilds it. In the classic look the background is a one-column
+ * pattern as high as the window, set as the palette's Window brush and rebuilt whenever the
+ * program changes the window's size (through setFrame(), resize() or a layout); while the user
+ * resizes the window, it is rebuilt only when the height before the resize differs from the
+ * one recorded at the last such rebuild:
  *
  * - ThreePart: the artwork's top, its middle stretched and its bottom, the top
  *   half only for windows shorter than the artwork (see BrixelPrivate::windowBackgroundPattern());
@@ -112,6 +114,7 @@ protected:
 
 private:
     void windowWillResize(QSize oldSize, QSize proposedSize);
+    void followSystemVersion();
     void setBackgroundPattern(const QImage &pattern);
 
     std::unique_ptr<class ZARNWindowPrivate> const d;

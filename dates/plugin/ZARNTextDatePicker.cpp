@@ -3,6 +3,8 @@
 
 #include "../ZARNDatePickerPlugin.h"
 
+#include <QTimeZone>
+
 ZARNTextDatePicker::ZARNTextDatePicker(QWidget *parent)
     : QDateEdit(parent)
 {
@@ -16,13 +18,18 @@ void ZARNTextDatePicker::setShowsDatePickerButton(bool shows)
 
 QDateTime ZARNTextDatePicker::dateValue() const
 {
-    return date().startOfDay();
+    // Only the day is edited: the time of day and the zone given last stay as they were.
+    if (!m_value.isValid())
+        return date().startOfDay();
+    return QDateTime(date(), m_value.time(), m_value.timeZone());
 }
 
 void ZARNTextDatePicker::setDateValue(const QDateTime &value)
 {
-    if (value.isValid())
-        setDate(value.date());
+    if (!value.isValid())
+        return;
+    m_value = value;
+    setDate(value.date());
 }
 
 /// The plug-in object Qt loads: it makes ZARNTextDatePickers.

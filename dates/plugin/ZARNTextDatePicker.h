@@ -6,7 +6,8 @@
 
 /**
  * The text date picker of the "DatePicker" plug-in: a date edit whose calendar pop-up button
- * can be shown or hidden, with its date as a QDateTime at the start of the day.
+ * can be shown or hidden. Its date is a QDateTime: the day shown, at the time of day and in the
+ * zone of the value given last (the start of the day, in local time, before any).
  */
 class ZARNTextDatePicker : public QDateEdit
 {
@@ -18,4 +19,7 @@ public:
     Q_INVOKABLE void setShowsDatePickerButton(bool shows);
     QDateTime dateValue() const;
     void setDateValue(const QDateTime &value);
+
+private:
+    QDateTime m_value;
 };

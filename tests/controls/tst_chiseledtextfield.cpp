@@ -94,19 +94,22 @@ void TestChiseledTextField::engraving_data()
     QTest::addColumn<bool>("active");
     QTest::addColumn<QColor>("text");
     QTest::addColumn<QColor>("shadow");
+    QTest::addColumn<bool>("asProperty");
 
     const QColor newText = greyOverWhite(0.149, 1.0);
     const QColor newShadow = greyOverWhite(0.8078, 0.9);
     const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
-    QTest::newRow("new look") << 0x1050u << left << false << true << newText << newShadow;
+    QTest::newRow("new look") << 0x1050u << left << false << true << newText << newShadow << false;
     QTest::newRow("classic look") << 0x104Fu << left << false << true << greyOverWhite(0.1, 1.0)
-                                  << greyOverWhite(0.96, 0.9);
+                                  << greyOverWhite(0.96, 0.9) << false;
     QTest::newRow("inactive, translucent text") << 0x1050u << left << false << false << greyOverWhite(0.3, 0.9)
-                                                << greyOverWhite(0.8078, 0.7);
+                                                << greyOverWhite(0.8078, 0.7) << false;
     QTest::newRow("right aligned") << 0x1050u << Qt::Alignment(Qt::AlignRight | Qt::AlignBottom) << false << true
-                                   << newText << newShadow;
+                                   << newText << newShadow << false;
     QTest::newRow("attributed") << 0x1050u << Qt::Alignment(Qt::AlignHCenter | Qt::AlignTop) << true << true
-                                << newText << newShadow;
+                                << newText << newShadow << false;
+    QTest::newRow("font set as a property, as forms do") << 0x1050u << left << false << true << newText
+                                                         << newShadow << true;
 }
 
 void TestChiseledTextField::engraving()
@@ -117,11 +120,16 @@ void TestChiseledTextField::engraving()
     QFETCH(bool, active);
     QFETCH(QColor, text);
     QFETCH(QColor, shadow);
+    QFETCH(bool, asProperty);
     Brixel::ZARNSetSystemVersion(version);
 
     ZARNChiseledTextField field;
     field.resize(160, 40);
-    field.setFont(QFont(u"DejaVu Sans"_s, 18, QFont::Bold));
+    const QFont font(u"DejaVu Sans"_s, 18, QFont::Bold);
+    if (asProperty)
+        field.setProperty("font", font);
+    else
+        field.setFont(font);
     field.setAlignment(alignment);
     if (attributed)
         field.setAttributedStringValue(
@@ -169,6 +177,8 @@ void TestChiseledTextField::states_data()
     QTest::newRow("enabled again in an inactive window looks active")
         << Operation([](auto &f) { f.deactivate(); f.setEnabled(false); f.setEnabled(true); }) << false << active
         << shadowActive;
+    QTest::newRow("enabling an enabled field looks active")
+        << Operation([](auto &f) { f.deactivate(); f.setEnabled(true); }) << false << active << shadowActive;
     QTest::newRow("a new colour waits for activity")
         << Operation([](auto &f) { f.setActiveColor(Qt::red); }) << true << active << shadowActive;
     QTest::newRow("and shows at the next activate")
@@ -274,6 +284,11 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
     moved->setParent(window.get());
     QCoreApplication::sendEvent(window.get(), &deactivation);
     QVERIFY(!moved->isActive());
+    // So does one whose container is moved into the window from one it did not follow.
+    QMainWindow elsewhere;
+    auto *container = new QWidget(&elsewhere);
+    auto *nested = new ZARNChiseledTextField(container);
+    container->setParent(window.get());
 
     // A window-modal dialog over the window deactivates the field too.
     QDialog sheet(window.get());
@@ -282,6 +297,7 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
     sheet.show();
     QTRY_VERIFY(!field->isActive());
     QCOMPARE(field->textColor(), field->inactiveColor());
+    QVERIFY(!nested->isActive());
 }
 
 void TestChiseledTextField::attachmentDrawnOnce()

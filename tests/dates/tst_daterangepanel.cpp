@@ -53,6 +53,7 @@ private Q_SLOTS:
     void layoutOfRealControls();
     void ok_data();
     void ok();
+    void pickersKeepTimeAndZone();
     void missingPlugin();
 };
 
@@ -146,10 +147,22 @@ void TestDateRangePanel::ok_data()
         qobject_cast<QLineEdit *>(p.toObject())->setText(u"soon"_s);
         p.fromObject()->setFocus();
     }) << true << u"2024-01-02"_s << u"2024-05-15"_s;
-    QTest::newRow("line edits, the focused editor refuses") << 0x103Fu << Edit([](BXDateRangePanel &p) {
-        qobject_cast<QLineEdit *>(p.fromObject())->setText(u"31/2/24"_s);
-        p.fromObject()->setFocus();
+    const auto focusedFrom = [](const QString &text) {
+        return Edit([text](BXDateRangePanel &p) {
+            qobject_cast<QLineEdit *>(p.fromObject())->setText(text);
+            p.fromObject()->setFocus();
+        });
+    };
+    QTest::newRow("line edits, the focused editor refuses") << 0x103Fu << focusedFrom(u"31/2/24"_s) << false
+                                                            << u"2024-01-02"_s << u"2024-03-04"_s;
+    QTest::newRow("line edits, typed unreadable text refuses after a click") << 0x103Fu << Edit([](BXDateRangePanel &p) {
+        auto *field = qobject_cast<QLineEdit *>(p.fromObject());
+        field->clear();
+        QTest::keyClicks(field, u"soon"_s);
+        p.okButton()->setFocus();
     }) << false << u"2024-01-02"_s << u"2024-03-04"_s;
+    QTest::newRow("line edits, readable text in another form") << 0x103Fu << focusedFrom(u"09/06/24"_s) << true
+                                                               << u"2024-06-09"_s << u"2024-03-04"_s;
 }
 
 void TestDateRangePanel::ok()
@@ -184,6 +197,16 @@ void TestDateRangePanel::ok()
         QCOMPARE(ymd(panel.fromDate()), from);
         QCOMPARE(ymd(panel.toDate()), to);
     }
+}
+
+void TestDateRangePanel::pickersKeepTimeAndZone()
+{
+    Brixel::ZARNSetSystemVersion(0x1040);
+    const ZARNCalendarDate from = ZARNCalendarDate::dateWithYear(2024, 1, 2, 23, 30, 0, QTimeZone(9 * 3600));
+    BXDateRangePanel panel(QPointF(), from, day(2024, 3, 4));
+    QTimer::singleShot(0, panel.okButton(), &QPushButton::click);
+    QVERIFY(panel.run());
+    QCOMPARE(panel.fromDate(), from);
 }
 
 void TestDateRangePanel::missingPlugin()

@@ -62,6 +62,7 @@ void TestLegacyDatePicker::layout_data()
     QTest::newRow("year, month, day") << u"%Y-%m-%d"_s << QList<int>{167, 225, 99, 142, 200, 160, 218, 91};
     QTest::newRow("year, day, month") << u"%Y %d %B"_s << QList<int>{225, 167, 99, 142, 200, 218, 160, 91};
     QTest::newRow("no order moves nothing") << u"%H:%M"_s << QList<int>{99, 157, 215, 132, 190, 92, 150, 207};
+    QTest::newRow("no order in an empty format") << u""_s << QList<int>{99, 157, 215, 132, 190, 92, 150, 207};
 }
 
 void TestLegacyDatePicker::layout()
@@ -78,7 +79,7 @@ void TestLegacyDatePicker::layout()
     // that orders nothing, its fields stay where they were made.
     ZARNUserDefaults::setObject(format, u"NSShortDateFormatString"_s);
     const BXLegacyDatePicker fresh;
-    QCOMPARE(positions(fresh), QTest::currentDataTag() == "no order moves nothing"_L1 ? QList<int>(8, 0) : x);
+    QCOMPARE(positions(fresh), QByteArray(QTest::currentDataTag()).startsWith("no order") ? QList<int>(8, 0) : x);
 }
 
 void TestLegacyDatePicker::keyboardFollowsTheOrder()
@@ -109,14 +110,16 @@ void TestLegacyDatePicker::showsTheDateOnly()
     BXLegacyDatePicker picker;
     QVERIFY(picker.monthField()->text().isEmpty());
     const ZARNCalendarDate date = ZARNCalendarDate::dateWithYear(2007, 3, 5, 0, 0, 0);
+    // Typing is logged, the date's own text is not, and typing never changes the date.
+    static QStringList logged;
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &message) { logged.append(message); });
     picker.setDate(date);
+    QTest::keyClicks(picker.dayField(), u"9"_s);
+    qInstallMessageHandler(previous);
+    QCOMPARE(logged, QStringList{u"text changed in \"day\" : \"59\""_s});
     QCOMPARE(picker.monthField()->text(), u"3"_s);
-    QCOMPARE(picker.dayField()->text(), u"5"_s);
     QCOMPARE(picker.yearField()->text(), u"2007"_s);
-
-    // Typing is logged, and never changes the date.
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"text changed in \"day\""_s));
-    picker.dayField()->setText(u"9"_s);
     picker.syncDateFromInterface();
     QCOMPARE(picker.date().dayOfMonth(), 5);
 }

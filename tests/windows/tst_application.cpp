@@ -3,6 +3,7 @@
 #include <Brixel/ZARNClock.h>
 
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -88,6 +89,12 @@ void TestApplication::notices_data()
     QTest::newRow("move without buttons") << Input([=](QWindow *w) { QTest::mouseMove(w, at + QPoint(3, 0)); }) << 0
                                           << 0;
     QTest::newRow("key press") << Input([](QWindow *w) { QTest::keyPress(w, Qt::Key_A); }) << 0 << 1;
+    QTest::newRow("key press taken by a shortcut") << Input([](QWindow *w) {
+        w->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(w));
+        new QShortcut(Qt::Key_B, QApplication::activeWindow());
+        QTest::keyPress(w, Qt::Key_B);
+    }) << 0 << 1;
     QTest::newRow("key release") << Input([](QWindow *w) { QTest::keyRelease(w, Qt::Key_A); }) << 0 << 0;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/BXSplitView.h>
 #include <Brixel/ZARNChiseledTextField.h>
+#include <Brixel/ZARNChiseledTextPopUpButton.h>
 #include <Brixel/ZARNNSNibAdditions.h>
 
 #include <QApplication>
@@ -159,6 +160,11 @@ void TestNibAdditions::libraryWidgetsInForms()
     auto *caption = form->findChild<ZARNChiseledTextField *>(u"caption"_s);
     QVERIFY(caption);
     QCOMPARE(caption->shadowField()->text(), u"Sources"_s);
+    // A chiseled pop-up button's title from the form lays the button out as setTitle() does.
+    auto *sort = form->findChild<ZARNChiseledTextPopUpButton *>(u"sort"_s);
+    QVERIFY(sort);
+    QCOMPARE(sort->width(), ZARNChiseledTextPopUpButton(u"Sort by Name"_s).width());
+    QCOMPARE(sort->title(), u"Sort by Name"_s);
 
     // The split view keeps 7 whatever the form says, until told otherwise.
     auto *split = form->findChild<BXSplitView *>(u"split"_s);

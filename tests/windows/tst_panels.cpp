@@ -78,9 +78,13 @@ void TestPanels::alertButtons()
     QCOMPARE(alert->button2()->isVisibleTo(alert->window()), button2Shown);
     QCOMPARE(alert->button2()->isEnabled(), button2Shown);
 
+    // Made taller than its title needs, it is refitted from its bottom edge.
+    button1->setGeometry(button1->geometry().adjusted(0, -20, 0, 0));
+    const int bottom = button1->geometry().bottom();
     const int oldWidth = button1->width();
     alert->setButton1Title(u"OK, and a much longer title"_s);
     const int growth = button1->width() - oldWidth;
+    QCOMPARE(button1->geometry().bottom(), bottom);
     QCOMPARE(button1->geometry().right(), right);
     QCOMPARE(button1->x(), lefts[0] - growth);
     QCOMPARE(alert->button2()->x(), lefts[1] - growth);
@@ -127,6 +131,12 @@ void TestPanels::alertRunsReturnTheTag()
     QCOMPARE(alert->window()->height(), height + 10);
     QCOMPARE(alert->window()->height() - alert->button1()->y(), buttonFromBottom);
     QCOMPARE(alert->window()->windowModality(), Qt::WindowModal);
+    // The alert keeps its window when a former sheet parent goes.
+    auto *gone = new QWidget;
+    QTimer::singleShot(0, alert->button1(), &QPushButton::click);
+    alert->runAsSheetForWindow(gone);
+    delete gone;
+    QVERIFY(alert->window());
 }
 
 void TestPanels::progressWindow()

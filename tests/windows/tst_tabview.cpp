@@ -143,6 +143,9 @@ void TestTabView::imageWidensTheLabel()
     tabs.resize(300, 200);
     const int labelHeight = tabs.tabBar()->fontMetrics().height();
     QCOMPARE(tabs.tabBar()->tabRect(1).width() - tabs.tabBar()->tabRect(0).width(), labelHeight + 2);
+    // An image given to a tab that exists widens it as well.
+    plain->setImage(star);
+    QCOMPARE(tabs.tabBar()->tabRect(0).width(), tabs.tabBar()->tabRect(1).width());
 }
 
 void TestTabView::nextResponderOfClass()

@@ -118,9 +118,18 @@ void TestWindow::backgroundOnlyInTheClassicLook()
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QCOMPARE(window.palette().window().textureImage(),
              BrixelPrivate::windowBackgroundPattern(ZARNWindow_BackgroundImage, 1, 70));
+    // A program's height change after a width-only one rebuilds too.
+    window.resize(300, 70);
+    window.resize(300, 120);
+    QCOMPARE(window.palette().window().textureImage().height(), 120);
+    window.resize(200, 70);
     window.setBackgroundMode(ZARNWindow::BackgroundMode::UpperHalf);
     QCOMPARE(window.palette().window().textureImage().height(), 70);
     QCOMPARE(qRed(window.palette().window().textureImage().pixel(0, 0)), 99);
+    Brixel::ZARNSetSystemVersion(0x1050);
+    QCOMPARE(window.palette().window().style(), Qt::SolidPattern);
+    Brixel::ZARNSetSystemVersion(0x1039);
+    QCOMPARE(window.palette().window().textureImage().height(), 70);
     window.setBackgroundMode(ZARNWindow::BackgroundMode::None);
     QCOMPARE(window.palette().window().style(), Qt::SolidPattern);
 

@@ -123,7 +123,10 @@ QGroupBox *popUpButton()
     const auto showTag = [button, shown] {
         shown->setText(QObject::tr("Selected tag: %1").arg(button->selectedItem()->data().toInt()));
     };
-    QObject::connect(button->menu(), &QMenu::triggered, shown, showTag);
+    QObject::connect(button->menu(), &QMenu::triggered, shown, [button, showTag](QAction *item) {
+        button->selectItemWithTag(item->data().toInt());
+        showTag();
+    });
     showTag();
     layout->addWidget(button);
     layout->addWidget(shown);
