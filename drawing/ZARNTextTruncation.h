@@ -21,7 +21,9 @@ class QStandardItem;
  * Shortening drops characters from the end and puts "..." after what is left, keeping the
  * longest start of the text that fits together with the dots. The result is exactly what
  * dropping one character at a time and measuring after each step gives, but found with a few
- * measurements of short prefixes instead of one per character.
+ * measurements of short prefixes instead of one per character. Whether long text fits at all
+ * is settled by a start of it where that start is already too wide, so the rest of the text
+ * is not laid out.
  *
  * \code
  * TruncateStringInCell(fileNameLabel, fileNameLabel->width());

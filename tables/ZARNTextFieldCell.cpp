@@ -9,6 +9,8 @@
 #include "../drawing/ZARNTextTruncation.h"
 
 #include <QBrush>
+#include <QCache>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
 
@@ -53,11 +55,27 @@ void placeText(QPainter &painter, const ZARNAttributedTextLayout &layout, const 
     layout.draw(painter, QRectF(bounds.left() + padding, y, bounds.width() - 2 * padding, height));
 }
 
+// What a shortened text depends on: the text, its font and the width of the cell.
+struct ShortenedTextKey
+{
+    QString text;
+    QFont font;
+    qreal width;
+
+    friend bool operator==(const ShortenedTextKey &, const ShortenedTextKey &) = default;
+    friend size_t qHash(const ShortenedTextKey &key, size_t seed = 0)
+    {
+        return qHashMulti(seed, key.text, key.font, key.width);
+    }
+};
+
 } // namespace
 
 class ZARNTextFieldCellPrivate
 {
 public:
+    QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width);
+
     QColor textColor;
     QColor backgroundColor;
     std::optional<QFont> font;
@@ -67,12 +85,32 @@ public:
     // shortening altogether, and a column's cells usually share one font.
     std::optional<QFont> dotsFont;
     qreal dotsWidth = 0;
+
+    // The texts shortened for recent paints: a table repaints the same cells at the same width
+    // over and over, and finding the longest start that fits takes a dozen text layouts. The
+    // number of texts is bounded (a few screens of cells); the oldest give way first.
+    QCache<ShortenedTextKey, QString> shortenedTexts{2048};
 };
+
+// The text a cell shows for \a text in one style, \a attributes, at \a width: the text itself
+// when it fits, else its shortened form.
+QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width)
+{
+    ShortenedTextKey key{text.string(), attributes.value(ZARNFontAttributeName).value<QFont>(), width};
+    if (const QString *shown = shortenedTexts.object(key))
+        return *shown;
+    const QString shown = Brixel::TruncateAttributedString(text, float(width)).string();
+    shortenedTexts.insert(std::move(key), new QString(shown));
+    return shown;
+}
 
 ZARNTextFieldCell::ZARNTextFieldCell(QObject *parent)
     : QStyledItemDelegate(parent)
     , d(std::make_unique<ZARNTextFieldCellPrivate>())
 {
+    // Fonts added or removed can change how a font measures.
+    if (auto *application = qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        connect(application, &QGuiApplication::fontDatabaseChanged, this, [this] { d->shortenedTexts.clear(); });
 }
 
 QColor ZARNTextFieldCell::textColor() const
@@ -124,6 +162,7 @@ void ZARNTextFieldCell::setFont(const QFont &font)
     if (d->font == font)
         return;
     d->font = font;
+    d->shortenedTexts.clear();
     Q_EMIT sizeHintChanged(QModelIndex());
 }
 
@@ -195,15 +234,13 @@ qreal ZARNTextFieldCell::dotsWidth(const QFont &font) const
 void ZARNTextFieldCell::drawAttributedText(QPainter &painter, const ZARNAttributedString &text, const QRectF &bounds,
                                            Qt::Alignment alignment) const
 {
-    const ZARNAttributedTextLayout whole(text, 0, false);
-    if (fitsCell(whole.width(), bounds.width())) {
-        placeText(painter, whole, bounds, alignment);
-        return;
-    }
-    const ZARNAttributedTextLayout shortened(Brixel::TruncateAttributedString(text, float(bounds.width())), 0, false);
+    // The cell's text has one style throughout, so the shortened text takes it whole.
+    const QVariantMap attributes = text.attributesAtIndex(0);
+    const ZARNAttributedString shown(d->shownText(text, attributes, bounds.width()), attributes);
+    const ZARNAttributedTextLayout layout(shown, 0, false);
     // Only "..." is left and even that is too wide: the cell shows nothing.
-    if (fitsCell(shortened.width(), bounds.width()))
-        placeText(painter, shortened, bounds, alignment);
+    if (fitsCell(layout.width(), bounds.width()))
+        placeText(painter, layout, bounds, alignment);
 }
 
 void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const

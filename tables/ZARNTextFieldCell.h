@@ -24,7 +24,10 @@
  * left; the text is centred vertically unless the model asks for top or bottom.
  *
  * Text that measures more than the cell's width minus 4 points is shortened with
- * TruncateAttributedString(); a cell too narrow even for "..." draws no text.
+ * TruncateAttributedString(); a cell too narrow even for "..." draws no text. The cell keeps
+ * the shortened texts of its recent paints, by text, font and width, so that repainting a
+ * table does not shorten them again; it keeps a bounded number and forgets them all when its
+ * font or the application's fonts change.
  *
  * QStyle::State_Selected in the option means "draw the contents highlighted": the text is
  * restyled with ZARNTableView::highlightCellContents() (white, with the table's standard shadow, bold

@@ -51,10 +51,10 @@ ZARNAttributedString stepByStep(const ZARNAttributedString &string, float width)
 const QString words[] = {u"AVATAR"_s, u"To"_s, u"Wo"_s, u"office"_s, u"flow"_s, u"Yes,"_s, u"LT"_s,
                          u"naïve"_s, u"e\u0301te\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"1234"_s, u"..."_s, u"ij"_s};
 
-ZARNAttributedString randomText(QRandomGenerator &random)
+ZARNAttributedString randomText(QRandomGenerator &random, int maxWords = 8)
 {
     ZARNAttributedString text;
-    const int wordCount = random.bounded(1, 9);
+    const int wordCount = random.bounded(1, maxWords + 1);
     for (int word = 0; word < wordCount; ++word) {
         const QString piece = words[random.bounded(int(std::size(words)))] + (random.bounded(3) ? u" "_s : QString());
         const QColor colour = random.bounded(2) ? QColor(Qt::black) : QColor(Qt::red);
@@ -112,6 +112,13 @@ void TestTruncation::sameAsShorteningOneCharacterAtATime()
     for (int round = 0; round < 300; ++round) {
         const ZARNAttributedString text = randomText(random);
         const float width = float(random.bounded(5, 260)) + float(random.bounded(100)) / 100.0f;
+        QCOMPARE(Brixel::TruncateAttributedString(text, width), stepByStep(text, width));
+    }
+    // Texts of hundreds of characters, which are judged by their starts before the whole is
+    // measured, at widths that cut them early, late or not at all.
+    for (int round = 0; round < 12; ++round) {
+        const ZARNAttributedString text = randomText(random, 120);
+        const float width = float(random.bounded(20, 3000));
         QCOMPARE(Brixel::TruncateAttributedString(text, width), stepByStep(text, width));
     }
 }

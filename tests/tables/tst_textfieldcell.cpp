@@ -91,6 +91,7 @@ private Q_SLOTS:
     void selectedContentsAreRestyled();
     void shortensTextThatDoesNotFit_data();
     void shortensTextThatDoesNotFit();
+    void shortenedTextFollowsChanges();
     void background_data();
     void background();
     void sizeHint_data();
@@ -334,6 +335,30 @@ void TestTextFieldCell::shortensTextThatDoesNotFit()
     QStyleOptionViewItem wide = viewOption({0, 0, 120, 30}, selected);
     const QImage expected = paintCell(cell, wide, expectedModel.index(0, 0), Qt::darkBlue);
     QCOMPARE(image, expected);
+}
+
+// The cell keeps the texts it has shortened; what it draws must still follow the width, the
+// selection, its font and the model's text, as a cell that never painted before draws them.
+void TestTextFieldCell::shortenedTextFollowsChanges()
+{
+    QStandardItemModel model;
+    model.appendRow(item(u"Hamburg Altona"_s));
+    ZARNTextFieldCell cell;
+    const auto same = [&](int width, bool selected) {
+        ZARNTextFieldCell fresh;
+        if (cell.font() != QFont())
+            fresh.setFont(cell.font());
+        const QStyleOptionViewItem option = viewOption({0, 0, width, 30}, selected);
+        return paintCell(cell, option, model.index(0, 0)) == paintCell(fresh, option, model.index(0, 0));
+    };
+    QVERIFY(same(70, false));
+    QVERIFY(same(90, false));
+    QVERIFY(same(70, false));
+    QVERIFY(same(70, true));
+    cell.setFont(font(10));
+    QVERIFY(same(70, false));
+    model.item(0)->setText(u"Hamburg Harburg"_s);
+    QVERIFY(same(70, false));
 }
 
 void TestTextFieldCell::background_data()
