@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // Measuring a 100,000-row column of strings with dataWidth(), beside QTableView's own
 // resizeColumnToContents() on the same model: once measuring every row (header precision -1,
-// as dataWidth() does) and once at Qt's default precision of 1000 rows.
+// as dataWidth() does) and once at Qt's default precision of 1000 rows. Measured first with
+// the view's QStyledItemDelegate, then with ZARNTextFieldCell, the cell the library's own
+// tables and outlines use.
 #include "BenchHarness.h"
 
 #include <Brixel/ZARNNSTableColumnAdditions.h>
+#include <Brixel/ZARNTextFieldCell.h>
 #include "tables/TableColumnList_p.h"
 
 #include <QAbstractTableModel>
@@ -51,14 +54,19 @@ int main(int argc, char *argv[])
     BrixelPrivate::TableColumnList columns(&view, view.horizontalHeader());
     ZARNTableColumn *column = columns.columnAt(0);
 
-    const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::dataWidth(column)); }, 100, 3);
-    view.horizontalHeader()->setResizeContentsPrecision(-1);
-    const double qtAll = brixelbench::nanosecondsPerCall([&] { view.resizeColumnToContents(0); }, 100, 3);
-    view.horizontalHeader()->setResizeContentsPrecision(1000);
-    const double qtDefault = brixelbench::nanosecondsPerCall([&] { view.resizeColumnToContents(0); }, 100, 3);
-
-    std::printf("100000 rows of strings, the view's QStyledItemDelegate\n");
-    brixelbench::report("dataWidth, all rows", ours, "resizeColumnToContents, precision -1", qtAll);
-    brixelbench::report("dataWidth, all rows", ours, "resizeColumnToContents, precision 1000", qtDefault);
+    const auto measure = [&](const char *cellName) {
+        const double ours = brixelbench::nanosecondsPerCall([&] { brixelbench::keep(Brixel::dataWidth(column)); }, 100, 3);
+        view.horizontalHeader()->setResizeContentsPrecision(-1);
+        const double qtAll = brixelbench::nanosecondsPerCall([&] { view.resizeColumnToContents(0); }, 100, 3);
+        view.horizontalHeader()->setResizeContentsPrecision(1000);
+        const double qtDefault = brixelbench::nanosecondsPerCall([&] { view.resizeColumnToContents(0); }, 100, 3);
+        std::printf("100000 rows of strings, %s\n", cellName);
+        brixelbench::report("dataWidth, all rows", ours, "resizeColumnToContents, precision -1", qtAll);
+        brixelbench::report("dataWidth, all rows", ours, "resizeColumnToContents, precision 1000", qtDefault);
+    };
+    measure("the view's QStyledItemDelegate");
+    ZARNTextFieldCell cell;
+    column->setDataCell(&cell);
+    measure("ZARNTextFieldCell");
     return 0;
 }
