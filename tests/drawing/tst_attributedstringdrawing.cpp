@@ -50,11 +50,6 @@ bool isInk(const QColor &color)
     return color.red() < 160 && color.green() < 160 && color.blue() < 160;
 }
 
-bool isRed(const QColor &color)
-{
-    return color.red() > 200 && color.green() < 90 && color.blue() < 90;
-}
-
 } // namespace
 
 class TestAttributedStringDrawing : public QObject
@@ -62,48 +57,12 @@ class TestAttributedStringDrawing : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void measures_data();
-    void measures();
     void emptyTextIsOneLineOfItsFont();
     void alignsEachParagraph_data();
     void alignsEachParagraph();
-    void shadowLiesUnderTheGlyphs_data();
-    void shadowLiesUnderTheGlyphs();
     void drawsOnlyLinesStartingInsideTheRectangle_data();
     void drawsOnlyLinesStartingInsideTheRectangle();
 };
-
-void TestAttributedStringDrawing::measures_data()
-{
-    QTest::addColumn<QString>("string");
-    QTest::addColumn<qreal>("wrapWidth");
-    QTest::addColumn<bool>("wraps");
-    QTest::addColumn<QString>("widestLine");
-    QTest::addColumn<int>("lines");
-
-    QTest::newRow("one line") << u"Hamburg"_s << 0.0 << false << u"Hamburg"_s << 1;
-    QTest::newRow("own line breaks") << u"ab\nHamburg\rx"_s << 0.0 << false << u"Hamburg"_s << 3;
-    QTest::newRow("wrapped at words") << u"Hamburg Hamburg Hamburg"_s << 200.0 << true << u"Hamburg"_s << 3;
-    QTest::newRow("no wrapping ignores the width") << u"Hamburg Hamburg"_s << 20.0 << false << u"Hamburg Hamburg"_s << 1;
-    QTest::newRow("NaN width wraps after every character") << u"abc"_s << qQNaN() << true << u"b"_s << 3;
-}
-
-void TestAttributedStringDrawing::measures()
-{
-    QFETCH(QString, string);
-    QFETCH(qreal, wrapWidth);
-    QFETCH(bool, wraps);
-    QFETCH(QString, widestLine);
-    QFETCH(int, lines);
-
-    const QFontMetricsF metrics(bigFont());
-    const ZARNAttributedTextLayout layout(text(string), wrapWidth, wraps);
-    if (QTest::currentDataTag() == "NaN width wraps after every character"_L1)
-        QCOMPARE_LE(layout.width(), metrics.horizontalAdvance(u"b"_s) + 0.5);
-    else
-        QCOMPARE_LE(qAbs(layout.width() - metrics.horizontalAdvance(widestLine)), 0.5);
-    QCOMPARE(layout.height(), lines * lineHeight());
-}
 
 void TestAttributedStringDrawing::emptyTextIsOneLineOfItsFont()
 {
@@ -156,59 +115,6 @@ void TestAttributedStringDrawing::alignsEachParagraph()
         QCOMPARE_GE(ink.left(), int(expectedLeft) - 1);
         QCOMPARE_LE(ink.left(), int(expectedLeft) + 4);
         QCOMPARE_LE(ink.right(), int(std::ceil(expectedLeft + advance)) + 1);
-    }
-}
-
-void TestAttributedStringDrawing::shadowLiesUnderTheGlyphs_data()
-{
-    QTest::addColumn<ZARNSize>("offset");
-    QTest::addColumn<QPoint>("expectedShift");
-
-    QTest::newRow("right and down (negative height)") << ZARNSize{3, -4} << QPoint(3, 4);
-    QTest::newRow("left and up") << ZARNSize{-5, 2} << QPoint(-5, -2);
-    QTest::newRow("one point down, two right") << ZARNSize{2, -1} << QPoint(2, 1);
-}
-
-void TestAttributedStringDrawing::shadowLiesUnderTheGlyphs()
-{
-    QFETCH(ZARNSize, offset);
-    QFETCH(QPoint, expectedShift);
-
-    const QRectF rect(40, 40, 300, 100);
-    ZARNAttributedString plain = text(u"plain "_s);
-    ZARNAttributedString shadowed = plain;
-    shadowed.append(text(u"Shadow"_s));
-    shadowed.addAttribute(ZARNShadowAttributeName, QVariant::fromValue(ZARNShadow{offset, 1.0f, QColor(Qt::red)}),
-                          {plain.length(), 6});
-    ZARNAttributedString unshadowed = plain;
-    unshadowed.append(text(u"Shadow"_s));
-
-    const QImage without = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, unshadowed, rect); });
-    const QImage with = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, shadowed, rect); });
-
-    // Only the second word casts a shadow; its far edges show past the glyphs by the offset.
-    const qreal plainWidth = QFontMetricsF(bigFont()).horizontalAdvance(u"plain "_s);
-    const int wordLeft = int(rect.x() + plainWidth);
-    const QRect textInk =
-        brixeltest::pixelBounds(without.copy(wordLeft, 0, without.width() - wordLeft, without.height()), isInk).translated(wordLeft, 0);
-    const QRect shadowInk = brixeltest::pixelBounds(with, isRed);
-    QVERIFY(!shadowInk.isNull());
-    QCOMPARE_GE(shadowInk.left(), wordLeft - 6);
-    if (expectedShift.x() >= 0)
-        QCOMPARE_LE(qAbs(shadowInk.right() - (textInk.right() + expectedShift.x())), 1);
-    else
-        QCOMPARE_LE(qAbs(shadowInk.left() - (textInk.left() + expectedShift.x())), 1);
-    if (expectedShift.y() >= 0)
-        QCOMPARE_LE(qAbs(shadowInk.bottom() - (textInk.bottom() + expectedShift.y())), 1);
-    else
-        QCOMPARE_LE(qAbs(shadowInk.top() - (textInk.top() + expectedShift.y())), 1);
-
-    // The glyphs are drawn over their shadow: every solid glyph pixel stays dark.
-    for (int y = 0; y < without.height(); ++y) {
-        for (int x = 0; x < without.width(); ++x) {
-            if (qGray(without.pixel(x, y)) < 40)
-                QVERIFY2(qGray(with.pixel(x, y)) < 40, qPrintable(u"(%1, %2) not dark"_s.arg(x).arg(y)));
-        }
     }
 }
 

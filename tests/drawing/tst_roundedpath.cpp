@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/NSBezierPath_Category.h>
 
-#include <QImage>
 #include <QPainter>
 #include <QTest>
 
@@ -29,7 +28,6 @@ private Q_SLOTS:
     void cornersAndBounds_data();
     void cornersAndBounds();
     void arcsRunCounterClockwiseWithYUp();
-    void filledCapsuleLeavesItsCornersEmpty();
 };
 
 void TestRoundedPath::cornersAndBounds_data()
@@ -77,21 +75,6 @@ void TestRoundedPath::arcsRunCounterClockwiseWithYUp()
     QCOMPARE(points, expected);
     // A negative radius is used as it is, so its corners bulge outwards.
     QVERIFY(Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, -5).boundingRect().width() > 40);
-}
-
-void TestRoundedPath::filledCapsuleLeavesItsCornersEmpty()
-{
-    QImage image(40, 20, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(Brixel::bezierPathWithRoundedRect({0, 0, 40, 20}, 10), Qt::blue);
-    }
-    QCOMPARE(image.pixelColor(0, 0).alpha(), 0);
-    QCOMPARE(image.pixelColor(39, 19).alpha(), 0);
-    QCOMPARE(image.pixelColor(20, 10), QColor(Qt::blue));
-    QCOMPARE(image.pixelColor(1, 10), QColor(Qt::blue));
 }
 
 QTEST_GUILESS_MAIN(TestRoundedPath)

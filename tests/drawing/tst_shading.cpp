@@ -30,8 +30,6 @@ class TestShading : public QObject
 private Q_SLOTS:
     void interpolation_data();
     void interpolation();
-    void painted_data();
-    void painted();
 };
 
 void TestShading::interpolation_data()
@@ -64,45 +62,6 @@ void TestShading::interpolation()
     QVERIFY2(out[0] == expected, qPrintable(QString::number(out[0], 'g', 9)));   // exactly, not fuzzily
     QCOMPARE(out[3], t);
     Brixel::ZARNShadingStandardShadingFunction(nullptr, &t, out);   // ignored, no crash
-}
-
-void TestShading::painted_data()
-{
-    QTest::addColumn<ZARNShading>("shading");
-    QTest::addColumn<QPoint>("point");   // y counted upward from the image's bottom edge
-    QTest::addColumn<QColor>("expected");
-
-    const QColor none = Qt::transparent;
-    const ZARNShading::Components green = {0, 0.5f, 0, 1};
-    QTest::newRow("new shading paints nothing visible") << ZARNShading() << QPoint(20, 0) << none;
-    QTest::newRow("vertical: start at the bottom") << shading({20, 0}, {20, 100}) << QPoint(5, 0) << QColor(1, 0, 254);
-    QTest::newRow("vertical: halfway") << shading({20, 0}, {20, 100}) << QPoint(35, 50) << QColor(129, 0, 126);
-    QTest::newRow("short axis: below the start") << shading({20, 30}, {20, 60}) << QPoint(20, 25) << none;
-    QTest::newRow("short axis: above the end") << shading({20, 30}, {20, 60}) << QPoint(20, 65) << none;
-    QTest::newRow("short axis: band spans the width") << shading({20, 30}, {20, 60}) << QPoint(0, 45) << QColor(132, 0, 123);
-    QTest::newRow("horizontal: band spans the height") << shading({10, 50}, {30, 50}) << QPoint(10, 0) << QColor(6, 0, 249);
-    QTest::newRow("equal colours: flat at the start") << shading({0, 10}, {0, 90}, green, green) << QPoint(20, 10) << QColor(0, 128, 0);
-    QTest::newRow("equal colours: flat at the end") << shading({0, 10}, {0, 90}, green, green) << QPoint(20, 89) << QColor(0, 128, 0);
-    QTest::newRow("coinciding points paint nothing") << shading({20, 50}, {20, 50}) << QPoint(20, 50) << none;
-}
-
-// Paints into a transparent 40 x 100 image with y growing upward, as a bitmap drawn by the
-// views is.
-void TestShading::painted()
-{
-    QFETCH(ZARNShading, shading);
-    QFETCH(QPoint, point);
-    QFETCH(QColor, expected);
-    QImage image(40, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    {
-        QPainter painter(&image);
-        painter.translate(0, image.height());
-        painter.scale(1, -1);
-        shading.drawShading(painter);
-    }
-    const QColor actual = image.pixelColor(point.x(), image.height() - 1 - point.y());
-    QVERIFY2(brixeltest::colorsClose(actual, expected, 4), qPrintable(actual.name(QColor::HexArgb)));
 }
 
 QTEST_MAIN(TestShading)

@@ -70,41 +70,11 @@ class TestTruncation : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void longestFittingLength_data();
-    void longestFittingLength();
     void sameAsShorteningOneCharacterAtATime();
     void limits();
     void cellsAreShortenedInPlace();
     void heightForWidth();
 };
-
-void TestTruncation::longestFittingLength_data()
-{
-    QTest::addColumn<QString>("fits");   // one character per length: 'y' fits, 'n' does not
-    QTest::addColumn<qsizetype>("expected");
-
-    QTest::newRow("every length fits") << u"yyyyyyyyyy"_s << qsizetype(9);
-    QTest::newRow("nothing fits") << u"nnnnn"_s << qsizetype(-1);
-    QTest::newRow("only the empty prefix") << u"ynnnnnnn"_s << qsizetype(0);
-    QTest::newRow("boundary in the middle") << u"yyyyyyynnnnnnnnnnnnnn"_s << qsizetype(6);
-    QTest::newRow("boundary after a power of two") << u"yyyyyyyyynnnn"_s << qsizetype(8);
-    // The search narrows to 4 fitting and 5 not; only the look one further finds 6.
-    QTest::newRow("a kerning dip just above") << u"yyyyynynnn"_s << qsizetype(6);
-    QTest::newRow("zero maximum") << u"y"_s << qsizetype(0);
-}
-
-void TestTruncation::longestFittingLength()
-{
-    QFETCH(QString, fits);
-    QFETCH(qsizetype, expected);
-    int calls = 0;
-    const qsizetype found = BrixelPrivate::longestFittingLength(fits.size() - 1, [&](qsizetype length) {
-        ++calls;
-        return fits.at(length) == u'y';
-    });
-    QCOMPARE(found, expected);
-    QVERIFY(calls <= 2 * 5 + 4);
-}
 
 void TestTruncation::sameAsShorteningOneCharacterAtATime()
 {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNAttributedString.h>
 
-#include <QColor>
-#include <QFont>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -46,8 +44,6 @@ private Q_SLOTS:
     void edits_data();
     void edits();
     void attributeEffectiveRange();
-    void substringAndAppend();
-    void formatRanges();
 };
 
 void TestAttributedString::edits_data()
@@ -112,37 +108,6 @@ void TestAttributedString::attributeEffectiveRange()
     QCOMPARE(range, (ZARNRange{3, 2}));
     QVERIFY(!string.attribute(u"color"_s, 9, &range).isValid());
     QCOMPARE(range, (ZARNRange{5, 5}));
-}
-
-void TestAttributedString::substringAndAppend()
-{
-    ZARNAttributedString string(u"0123456789"_s);
-    string.setAttributes(bold(), {2, 4});
-    const ZARNAttributedString middle = string.attributedSubstring({3, 5});
-    QCOMPARE(middle.string(), u"34567"_s);
-    QCOMPARE(runsOf(middle), (QList<Run>{{{0, 3}, bold()}, {{3, 2}, {}}}));
-    QVERIFY(string.attributedSubstring({10, 0}).isEmpty());
-
-    // Appending text with the same attributes as the end extends the last run.
-    ZARNAttributedString joined = string.attributedSubstring({0, 4});
-    joined.append(ZARNAttributedString(u"ab"_s, bold()));
-    joined.append(ZARNAttributedString(u"c"_s, red()));
-    QCOMPARE(joined.string(), u"0123abc"_s);
-    QCOMPARE(runsOf(joined), (QList<Run>{{{0, 2}, {}}, {{2, 4}, bold()}, {{6, 1}, red()}}));
-}
-
-void TestAttributedString::formatRanges()
-{
-    ZARNAttributedString string(u"Hello world"_s, {{ZARNFontAttributeName, QFont(u"DejaVu Sans"_s, 15)}});
-    string.addAttribute(ZARNForegroundColorAttributeName, QColor(Qt::red), {6, 5});
-    string.setAttributes({{ZARNParagraphAlignmentAttributeName, QVariant::fromValue(Qt::AlignCenter)}}, {5, 1});
-
-    const QList<QTextLayout::FormatRange> formats = string.formatRanges();
-    QCOMPARE(formats.size(), 2); // the run with neither font nor colour has no format
-    QCOMPARE(std::pair(formats.at(0).start, formats.at(0).length), std::pair(0, 5));
-    QCOMPARE(formats.at(0).format.font().pointSize(), 15);
-    QCOMPARE(std::pair(formats.at(1).start, formats.at(1).length), std::pair(6, 5));
-    QCOMPARE(formats.at(1).format.foreground().color(), QColor(Qt::red));
 }
 
 QTEST_GUILESS_MAIN(TestAttributedString)

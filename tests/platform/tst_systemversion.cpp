@@ -10,34 +10,10 @@ class TestSystemVersion : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void parse_data();
-    void parse();
     void startupCode_data();
     void startupCode();
     void setterNotifiesOnlyChanges();
 };
-
-void TestSystemVersion::parse_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<quint32>("code");
-
-    QTest::newRow("upper-case prefix and digits") << QStringLiteral("0X104F") << 0x104Fu;
-    QTest::newRow("without prefix") << QStringLiteral("1028") << 0x1028u;
-    QTest::newRow("blanks around") << QStringLiteral("  0x1040 ") << 0x1040u;
-    QTest::newRow("empty") << QString() << 0u;
-    QTest::newRow("prefix alone") << QStringLiteral("0x") << 0u;
-    QTest::newRow("not hexadecimal") << QStringLiteral("10.3.9") << 0u;
-    QTest::newRow("wider than 32 bits") << QStringLiteral("0x100000000") << 0u;
-    QTest::newRow("negative") << QStringLiteral("-0x1039") << 0u;
-}
-
-void TestSystemVersion::parse()
-{
-    QFETCH(QString, text);
-    QFETCH(quint32, code);
-    QCOMPARE(BrixelPrivate::parseSystemVersionCode(text), code);
-}
 
 void TestSystemVersion::startupCode_data()
 {

@@ -23,50 +23,9 @@ class TestEditingMoves : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void visitingOrder_data();
-    void visitingOrder();
     void target_data();
     void target();
 };
-
-void TestEditingMoves::visitingOrder_data()
-{
-    QTest::addColumn<TextMovement>("movement");
-    QTest::addColumn<Cell>("from");
-    QTest::addColumn<QList<Cell>>("visited");
-
-    // A 3 x 2 table in which nothing is editable, so every movement scans to its end; the
-    // wrapping pass covers the starting row (and cell) again.
-    QTest::newRow("tab") << TextMovement::Tab << Cell{1, 0}
-                         << QList<Cell>{{1, 1}, {2, 0}, {2, 1}, {0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {2, 1}};
-    QTest::newRow("backtab") << TextMovement::Backtab << Cell{1, 1}
-                             << QList<Cell>{{1, 0}, {0, 1}, {0, 0}, {2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0}};
-    QTest::newRow("return") << TextMovement::Return << Cell{1, 1} << QList<Cell>{{2, 1}, {0, 1}, {1, 1}, {2, 1}};
-    QTest::newRow("tab from the last cell") << TextMovement::Tab << Cell{2, 1}
-                                            << QList<Cell>{{0, 0}, {0, 1}, {1, 0}, {1, 1}, {2, 0}, {2, 1}};
-    QTest::newRow("backtab from below the table") << TextMovement::Backtab << Cell{9, 0}
-                                                  << QList<Cell>{{2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0},
-                                                                 {2, 1}, {2, 0}, {1, 1}, {1, 0}, {0, 1}, {0, 0}};
-    QTest::newRow("return from a column outside") << TextMovement::Return << Cell{0, 2} << QList<Cell>{};
-    QTest::newRow("other") << TextMovement::Other << Cell{0, 0} << QList<Cell>{};
-}
-
-void TestEditingMoves::visitingOrder()
-{
-    QFETCH(TextMovement, movement);
-    QFETCH(Cell, from);
-    QFETCH(QList<Cell>, visited);
-
-    QStringList seen, expected;
-    const auto isEditable = [&seen](Cell cell) {
-        seen.append(describe(cell));
-        return false;
-    };
-    QVERIFY(!BrixelPrivate::nextEditableCell(movement, from, 3, 2, isEditable));
-    for (Cell cell : visited)
-        expected.append(describe(cell));
-    QCOMPARE(seen, expected);
-}
 
 void TestEditingMoves::target_data()
 {

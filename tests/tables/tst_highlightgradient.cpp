@@ -14,7 +14,6 @@ using BrixelPrivate::HighlightGradientCache;
 namespace {
 
 const QColor highlight = QColor::fromRgbF(0.2f, 0.4f, 0.8f);
-constexpr qreal notANumber = std::numeric_limits<qreal>::quiet_NaN();
 
 QColor rgb(float red, float green, float blue, float alpha = 1.0f)
 {
@@ -27,42 +26,9 @@ class TestHighlightGradient : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void rebuilds_data();
-    void rebuilds();
     void colours_data();
     void colours();
 };
-
-void TestHighlightGradient::rebuilds_data()
-{
-    QTest::addColumn<QList<qreal>>("rowHeights");
-    QTest::addColumn<int>("rebuilds");
-    QTest::addColumn<int>("lastRowHeight");
-    QTest::addColumn<int>("imageHeight");
-
-    QTest::newRow("same height is made once") << QList<qreal>{18, 18, 18} << 1 << 18 << 18;
-    QTest::newRow("fractional height rebuilds every time") << QList<qreal>{17.5, 17.5, 17.5} << 3 << 17 << 18;
-    // The stored height is truncated, so the whole height after it matches.
-    QTest::newRow("whole height after its fraction is reused") << QList<qreal>{17.5, 17} << 1 << 17 << 18;
-    QTest::newRow("NaN never matches") << QList<qreal>{notANumber, notANumber} << 2 << INT_MIN << 1;
-    QTest::newRow("huge: 32-bit minimum, height capped") << QList<qreal>{1e300, 1e300} << 2 << INT_MIN << 4096;
-}
-
-void TestHighlightGradient::rebuilds()
-{
-    QFETCH(QList<qreal>, rowHeights);
-    QFETCH(int, rebuilds);
-    QFETCH(int, lastRowHeight);
-    QFETCH(int, imageHeight);
-    HighlightGradientCache cache;
-    QCOMPARE(cache.lastRowHeight(), -1);
-    QImage image;
-    for (qreal height : rowHeights)
-        image = cache.image(height, highlight);
-    QCOMPARE(cache.rebuildCount(), rebuilds);
-    QCOMPARE(cache.lastRowHeight(), lastRowHeight);
-    QCOMPARE(image.size(), QSize(64, imageHeight));
-}
 
 void TestHighlightGradient::colours_data()
 {

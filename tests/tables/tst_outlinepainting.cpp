@@ -66,11 +66,6 @@ bool isWhite(const QColor &c)
     return c.red() > 245 && c.green() > 245 && c.blue() > 245;
 }
 
-bool isInk(const QColor &c)
-{
-    return !isWhite(c);
-}
-
 bool isText(const QColor &c)
 {
     return c.lightness() < 128;
@@ -89,54 +84,11 @@ class TestOutlinePainting : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void indicator_data();
-    void indicator();
     void highlightFollowsIndentation_data();
     void highlightFollowsIndentation();
     void hiddenMarkerWidensCell_data();
     void hiddenMarkerWidensCell();
 };
-
-void TestOutlinePainting::indicator_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("delegateImage");
-    QTest::addColumn<bool>("drawsIndicators");
-    QTest::addColumn<QString>("expected"); // "art", "red" or "none"
-
-    QTest::newRow("expandable: artwork") << u"a"_s << false << true << u"art"_s;
-    QTest::newRow("leaf: nothing") << u"b"_s << false << true << u"none"_s;
-    QTest::newRow("delegate's image") << u"a"_s << true << true << u"red"_s;
-    QTest::newRow("delegate's image, leaf") << u"b"_s << true << true << u"none"_s;
-    QTest::newRow("indicators off") << u"a"_s << false << false << u"none"_s;
-}
-
-void TestOutlinePainting::indicator()
-{
-    QFETCH(QString, name);
-    QFETCH(bool, delegateImage);
-    QFETCH(bool, drawsIndicators);
-    QFETCH(QString, expected);
-
-    Outline o;
-    QImage red(8, 8, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
-    if (delegateImage)
-        o.delegate.indicator = red;
-    o.view.setDrawsBranchIndicators(drawsIndicators);
-    const QRect cell = o.cell(name);
-    const QRect marker(cell.left() - o.view.indentation(), cell.top(), o.view.indentation(), cell.height());
-    const QImage image = o.render();
-
-    QCOMPARE(hasPixel(image, marker, isInk), expected != u"none"_s);
-    if (expected == u"red"_s) {
-        // Right against the cell, centred on it.
-        const int y = cell.top() + (cell.height() - 8) / 2;
-        QVERIFY(brixeltest::colorsClose(brixeltest::colorAt(image, {cell.left() - 8, y}), Qt::red));
-        QVERIFY(brixeltest::colorsClose(brixeltest::colorAt(image, {cell.left() - 1, y + 7}), Qt::red));
-        QVERIFY(isWhite(brixeltest::colorAt(image, {cell.left() - 9, y})));
-    }
-}
 
 void TestOutlinePainting::highlightFollowsIndentation_data()
 {

@@ -181,14 +181,12 @@ private Q_SLOTS:
     void scrollBarsFollowTheEnabledState();
     void hidingColumns_data();
     void hidingColumns();
-    void activationRemakesTheGradient();
     void drops_data();
     void drops();
     void qtAutoExpansionIsFollowed();
     void editorDrawsNoBackground();
     void tile2LogsTheShownRows_data();
     void tile2LogsTheShownRows();
-    void delegateHearsOfEachDrawing();
     void dragImageIsMadeInDragPrep();
     void zapHidesTheMarkers();
     void worksWithoutModelOrDelegate();
@@ -517,18 +515,6 @@ void TestOutlineView::hidingColumns()
     QCOMPARE(f.view.hiddenTableColumns().size(), 3 - shown.size());
 }
 
-void TestOutlineView::activationRemakesTheGradient()
-{
-    Fixture f;
-    const int height = f.view.visualRect(f.item(u"a"_s)).height();
-    QCOMPARE(f.view.highlightGradientImage().height(), height);
-    QCOMPARE(f.view.lastHighlightGradientRowHeight(), height);
-
-    QMetaObject::invokeMethod(qApp, "applicationStateChanged", Q_ARG(Qt::ApplicationState, Qt::ApplicationActive));
-
-    QCOMPARE(f.view.lastHighlightGradientRowHeight(), -1);
-}
-
 void TestOutlineView::drops_data()
 {
     QTest::addColumn<bool>("collapseForDeposits");
@@ -638,15 +624,6 @@ void TestOutlineView::tile2LogsTheShownRows()
     QTest::ignoreMessage(QtInfoMsg, line.toUtf8().constData());
     f.view.tile2();
     QCOMPARE(f.view.numberOfRows(), rows);
-}
-
-void TestOutlineView::delegateHearsOfEachDrawing()
-{
-    Fixture f;
-    f.delegate.drawnRects.clear();
-    const QRect area(10, 5, 40, 20);
-    f.view.viewport()->repaint(area);
-    QCOMPARE(f.delegate.drawnRects, QList<QRect>{area});
 }
 
 void TestOutlineView::dragImageIsMadeInDragPrep()

@@ -4,12 +4,7 @@
 
 #include <BrixelTest.h>
 
-#include <QPainter>
 #include <QTest>
-
-#include <climits>
-#include <functional>
-#include <limits>
 
 using namespace BrixelPrivate;
 
@@ -17,65 +12,6 @@ Q_DECLARE_METATYPE(BrixelPrivate::DropPosition)
 Q_DECLARE_METATYPE(std::optional<QLineF>)
 
 namespace {
-
-const QColor outline(200, 0, 0);
-const QColor fill(0, 0, 200);
-const QColor gradientTop(0, 255, 0);
-const QColor gradientBottom(255, 255, 0);
-const QColor custom(255, 0, 255);
-const QColor none(Qt::transparent);
-const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
-
-// Two flat halves, so a pixel tells which end of the image it came from.
-QImage twoToneImage()
-{
-    QImage image(64, 18, QImage::Format_ARGB32_Premultiplied);
-    image.fill(gradientTop);
-    QPainter(&image).fillRect(0, 9, 64, 9, gradientBottom);
-    return image;
-}
-
-QImage solidImage(const QColor &colour)
-{
-    QImage image(8, 8, QImage::Format_ARGB32_Premultiplied);
-    image.fill(colour);
-    return image;
-}
-
-QImage picture(const std::function<void(QPainter &)> &draw)
-{
-    QImage image(120, 30, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    draw(painter);
-    return image;
-}
-
-QColor mix(const QColor &a, const QColor &b)
-{
-    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
-}
-
-QColor withAlpha(QColor colour, int alpha)
-{
-    colour.setAlpha(alpha);
-    return colour;
-}
-
-using Expectations = QList<std::pair<QPoint, QColor>>;
-
-void verifyPixels(const QImage &image, const Expectations &expectations, int tolerance = 3)
-{
-    for (const auto &[point, expected] : expectations) {
-        const QColor actual = brixeltest::colorAt(image, point);
-        // Fully transparent pixels carry no colour worth comparing.
-        const bool matches = expected.alpha() == 0 ? actual.alpha() <= tolerance
-                                                   : brixeltest::colorsClose(actual, expected, tolerance);
-        QVERIFY2(matches, qPrintable(QStringLiteral("(%1, %2): %3, expected %4")
-                                         .arg(point.x()).arg(point.y())
-                                         .arg(actual.name(QColor::HexArgb), expected.name(QColor::HexArgb))));
-    }
-}
 
 QRectF rowRect(int row)
 {
@@ -89,45 +25,17 @@ class TestRowHighlighting : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void init();
-    void shapeRect_data();
-    void shapeRect();
     void textCellFrame_data();
     void textCellFrame();
     void dropLine_data();
     void dropLine();
     void dropPosition_data();
     void dropPosition();
-    void sameAsSlowerDrawing_data();
-    void sameAsSlowerDrawing();
-    void drops_data();
-    void drops();
 };
 
 void TestRowHighlighting::init()
 {
     Brixel::setBezierPathDefaultLineWidth(1.0f);
-}
-
-void TestRowHighlighting::shapeRect_data()
-{
-    QTest::addColumn<QRectF>("rowRect");
-    QTest::addColumn<bool>("customImage");
-    QTest::addColumn<QRectF>("selection");
-    QTest::addColumn<QRectF>("drop");
-
-    QTest::newRow("inset, then shorter") << QRectF(0, 40, 200, 18) << false << QRectF(0.5, 40.5, 199, 16) << QRectF(1, 41, 198, 15);
-    QTest::newRow("custom image: the row itself") << QRectF(0, 40, 200, 18) << true << QRectF(0, 40, 200, 18) << QRectF(0, 40, 200, 18);
-    QTest::newRow("too small: negative height") << QRectF(0, 0, 10, 1) << false << QRectF(0.5, 0.5, 9, -1) << QRectF(1, 1, 8, -2);
-}
-
-void TestRowHighlighting::shapeRect()
-{
-    QFETCH(QRectF, rowRect);
-    QFETCH(bool, customImage);
-    QFETCH(QRectF, selection);
-    QFETCH(QRectF, drop);
-    QCOMPARE(selectionShapeRect(rowRect, customImage), selection);
-    QCOMPARE(dropHighlightRect(rowRect, customImage), drop);
 }
 
 void TestRowHighlighting::textCellFrame_data()
@@ -211,126 +119,6 @@ void TestRowHighlighting::dropPosition()
     QFETCH(bool, accepts);
     QFETCH(DropPosition, position);
     QCOMPARE(dropPositionInRow(rowRect, y, accepts), position);
-}
-
-void TestRowHighlighting::sameAsSlowerDrawing_data()
-{
-    QTest::addColumn<quint32>("style");
-    QTest::addColumn<bool>("outlineRing");   // else the texture fill
-    QTest::newRow("ring of a rectangle") << 0u << true;
-    QTest::newRow("ring of a capsule") << 1u << true;
-    QTest::newRow("ring of a rounded rectangle") << 2u << true;
-    QTest::newRow("texture in a rectangle") << 0u << false;
-    QTest::newRow("texture in a capsule") << 1u << false;
-}
-
-// The outline ring covers the pixels of a mitred 1-wide stroke, measured by stroking four
-// times larger without antialiasing and averaging down (Qt's antialiased stroke flattens
-// curves coarsely and leaves unmitred the corner where a rectangle's path closes).
-// The texture fill shows what clipping and drawing the image shows. Qt clips rectangles to
-// whole pixels, so there the texture alone covers the half pixels along the top and left;
-// those take the colour next to them, never that of the opposite edge (textures repeat).
-void TestRowHighlighting::sameAsSlowerDrawing()
-{
-    QFETCH(quint32, style);
-    QFETCH(bool, outlineRing);
-    const QRectF shape = selectionShapeRect(row, false);
-    QPainterPath path = highlightPath(shape, ZARNTableView::HighlightStyle(style));
-    QImage gradient(64, 18, QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < gradient.height(); ++y)
-        for (int x = 0; x < gradient.width(); ++x)
-            gradient.setPixelColor(x, y, QColor(x, 50 + y * 2, 200 - y * 2));
-    const QImage fast = picture([&](QPainter &painter) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        if (outlineRing)
-            painter.fillPath(highlightOutlineRing(shape, ZARNTableView::HighlightStyle(style), 1.0f), Qt::black);
-        else
-            fillPathWithStretchedImage(painter, path, shape, gradient);
-    });
-    QImage slow(480, 120, QImage::Format_ARGB32_Premultiplied);
-    slow.fill(Qt::transparent);
-    {
-        QPainter painter(&slow);
-        painter.scale(4, 4);
-        if (outlineRing && style == 0) {   // closing halfway along the top edge
-            path = QPainterPath(QPointF(shape.center().x(), shape.top()));
-            for (const QPointF &corner : {shape.topRight(), shape.bottomRight(), shape.bottomLeft(), shape.topLeft()})
-                path.lineTo(corner);
-            path.closeSubpath();
-        }
-        if (outlineRing) {
-            painter.strokePath(path, QPen(Qt::black, 1.0, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-        } else {
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.setClipPath(path);
-            painter.drawImage(shape, gradient, gradient.rect());
-        }
-    }
-    slow = slow.scaled(120, 30, Qt::IgnoreAspectRatio, outlineRing ? Qt::SmoothTransformation : Qt::FastTransformation);
-    const QPoint centre = shape.center().toPoint();
-    int compared = 0;
-    for (int y = 0; y < fast.height(); ++y) {
-        for (int x = 0; x < fast.width(); ++x) {
-            const QColor actual = fast.pixelColor(x, y);
-            QPoint from(x, y);
-            if (!outlineRing && slow.pixelColor(from).alpha() == 0)
-                from += QPoint(x < centre.x() ? 1 : 0, y < centre.y() ? 1 : 0);
-            QColor expected = slow.pixelColor(from);
-            if (outlineRing) {
-                // 16 samples a pixel leave some error along curves.
-                QVERIFY2(qAbs(actual.alpha() - expected.alpha()) <= 40, qPrintable(QStringLiteral("(%1, %2)").arg(x).arg(y)));
-                compared += actual.alpha() > 128;
-            } else if (actual.alpha() >= 48 && expected.alpha() >= 48) {   // faint colours are too coarse
-                expected.setAlpha(actual.alpha());
-                QVERIFY2(brixeltest::colorsClose(actual, expected, 4), qPrintable(QStringLiteral("(%1, %2)").arg(x).arg(y)));
-                ++compared;
-            }
-        }
-    }
-    QVERIFY(compared > 200);
-}
-
-void TestRowHighlighting::drops_data()
-{
-    QTest::addColumn<int>("kind");   // 0: on the view, 1: unselected row, 2: selected row, 3: marker
-    QTest::addColumn<Expectations>("pixels");
-
-    const QColor frame = withAlpha(outline, 230);   // alpha 0.9
-    // The view's frame: 2 pixels just inside the bounds (0, 0, 120, 30).
-    QTest::newRow("on the view") << 0
-        << Expectations{{{0, 0}, frame}, {{1, 15}, frame}, {{2, 15}, none}, {{119, 29}, frame}, {{60, 28}, frame}, {{60, 27}, none}};
-    // The row's drop rectangle (11, 7, 98, 15), outlined 2 wide around its edge.
-    QTest::newRow("unselected row: faint fill, outline at 0.9") << 1
-        << Expectations{{{60, 14}, withAlpha(fill, 38)}, {{60, 6}, frame}, {{60, 4}, none}, {{10, 14}, frame}};
-    QTest::newRow("selected row: outline only") << 2
-        << Expectations{{{60, 14}, none}, {{60, 6}, outline}, {{60, 7}, outline}, {{60, 8}, none}};
-    // Line (20, 15) to (110, 15): the circle (14, 12, 6, 6) ends at its start.
-    QTest::newRow("marker between rows") << 3
-        << Expectations{{{17, 15}, Qt::white}, {{14, 15}, outline}, {{60, 14}, outline}, {{60, 15}, outline},
-                        {{60, 13}, none}, {{60, 16}, none}, {{109, 15}, outline}, {{110, 15}, none}};
-}
-
-void TestRowHighlighting::drops()
-{
-    QFETCH(int, kind);
-    QFETCH(Expectations, pixels);
-    const SelectionColors colors{fill, outline, true};
-    const QImage image = picture([&](QPainter &painter) {
-        switch (kind) {
-        case 0:
-            drawDropHighlightOnView(painter, QRectF(0, 0, 120, 30), colors);
-            break;
-        case 1:
-        case 2:
-            drawDropHighlightOnRow(painter, dropHighlightRect(row, false), kind == 2, colors);
-            break;
-        default:
-            drawDropMarker(painter, QLineF(20, 15, 110, 15), colors);
-        }
-    });
-    verifyPixels(image, pixels);
-    // Drawing a row or a marker leaves the default line width at 2.
-    QCOMPARE(Brixel::bezierPathDefaultLineWidth(), kind == 0 ? 1.0f : 2.0f);
 }
 
 QTEST_MAIN(TestRowHighlighting)

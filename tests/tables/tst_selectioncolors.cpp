@@ -4,12 +4,7 @@
 
 #include <BrixelTest.h>
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QStandardItemModel>
-#include <QTableView>
 #include <QTest>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -26,64 +21,6 @@ QString describe(const QColor &colour)
     return colour.name(QColor::HexArgb);
 }
 
-enum class Focus { View, EditorInView, OtherWidget, OtherWindow };
-
-// A window with a line edit and a table whose palette has distinct active and inactive
-// highlight colours, and a second window to take the activation away.
-struct Scene
-{
-    Scene()
-    {
-        auto *layout = new QVBoxLayout(&window);
-        layout->addWidget(&lineEdit);
-        layout->addWidget(&view);
-        model.setRowCount(3);
-        model.setColumnCount(2);
-        view.setModel(&model);
-        QPalette palette = view.palette();
-        palette.setColor(QPalette::Active, QPalette::Highlight, highlight);
-        palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::red);
-        palette.setColor(QPalette::Disabled, QPalette::Highlight, Qt::green);
-        view.setPalette(palette);
-        window.resize(300, 200);
-        otherWindow.resize(100, 100);
-    }
-
-    bool bringAbout(Focus focus)
-    {
-        window.show();
-        window.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window))
-            return false;
-        switch (focus) {
-        case Focus::View:
-            view.setFocus();
-            return QTest::qWaitFor([this] { return view.hasFocus(); });
-        case Focus::EditorInView:
-            view.edit(model.index(1, 1));
-            return QTest::qWaitFor([this] {
-                const QWidget *focus = QApplication::focusWidget();
-                return focus && focus != &view && view.isAncestorOf(focus);
-            });
-        case Focus::OtherWidget:
-            lineEdit.setFocus();
-            return QTest::qWaitFor([this] { return lineEdit.hasFocus(); });
-        case Focus::OtherWindow:
-            view.setFocus();
-            otherWindow.show();
-            otherWindow.activateWindow();
-            return QTest::qWaitForWindowActive(&otherWindow) && !window.isActiveWindow();
-        }
-        return false;
-    }
-
-    QWidget window;
-    QLineEdit lineEdit;
-    QTableView view;
-    QStandardItemModel model;
-    QWidget otherWindow;
-};
-
 } // namespace
 
 class TestSelectionColors : public QObject
@@ -92,8 +29,6 @@ class TestSelectionColors : public QObject
 private Q_SLOTS:
     void colourRule_data();
     void colourRule();
-    void views_data();
-    void views();
     void nullView();
 };
 
@@ -127,39 +62,6 @@ void TestSelectionColors::colourRule()
     QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
     const QColor actualOutline = BrixelPrivate::selectionOutlineColor(actual);
     QVERIFY2(brixeltest::colorsClose(actualOutline, outline, 1), qPrintable(describe(actualOutline)));
-}
-
-void TestSelectionColors::views_data()
-{
-    QTest::addColumn<Focus>("focus");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QColor>("expected");
-    QTest::addColumn<bool>("gradient");
-
-    // The active highlight is used even though the palette's inactive and disabled groups
-    // have colours of their own.
-    QTest::newRow("focused view in the active window") << Focus::View << true << highlight << true;
-    QTest::newRow("editor inside the view has the focus") << Focus::EditorInView << true << highlight << true;
-    QTest::newRow("another widget has the focus") << Focus::OtherWidget << true << grey70 << false;
-    QTest::newRow("another window is active") << Focus::OtherWindow << true << grey70 << false;
-    QTest::newRow("disabled view") << Focus::View << false << grey70 << false;
-}
-
-void TestSelectionColors::views()
-{
-    QFETCH(Focus, focus);
-    QFETCH(bool, enabled);
-    QFETCH(QColor, expected);
-    QFETCH(bool, gradient);
-    Scene scene;
-    QVERIFY(scene.bringAbout(focus));
-    scene.view.setEnabled(enabled);
-
-    const QColor actual = Brixel::selectionColor(&scene.view);
-    QVERIFY2(brixeltest::colorsClose(actual, expected, 1), qPrintable(describe(actual)));
-    const QColor outline = Brixel::selectionOutlineColor(&scene.view);
-    QVERIFY2(brixeltest::colorsClose(outline, BrixelPrivate::selectionOutlineColor(expected), 1), qPrintable(describe(outline)));
-    QCOMPARE(Brixel::selectionShouldDrawGradient(&scene.view), gradient);
 }
 
 void TestSelectionColors::nullView()

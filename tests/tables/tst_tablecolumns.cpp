@@ -39,30 +39,6 @@ std::unique_ptr<QStandardItemModel> makeModel(const QStringList &titles)
     return model;
 }
 
-QList<int> modelColumns(const QList<ZARNTableColumn *> &columns)
-{
-    QList<int> result;
-    for (const ZARNTableColumn *column : columns)
-        result.append(column->modelColumn());
-    return result;
-}
-
-// The header texts as they are laid out on screen, left to right.
-QStringList renderedTitles(const QHeaderView &header)
-{
-    QList<int> shown;
-    for (int logical = 0; logical < header.count(); ++logical)
-        if (!header.isSectionHidden(logical))
-            shown.append(logical);
-    std::sort(shown.begin(), shown.end(), [&](int a, int b) {
-        return header.sectionViewportPosition(a) < header.sectionViewportPosition(b);
-    });
-    QStringList titles;
-    for (int logical : shown)
-        titles.append(header.model()->headerData(logical, Qt::Horizontal).toString());
-    return titles;
-}
-
 // Every column object answers for its own model column, and the hidden list holds exactly
 // live, hidden columns.
 void verifyConsistent(const BrixelPrivate::TableColumnList &list, const QHeaderView &header)
@@ -81,19 +57,6 @@ void verifyConsistent(const BrixelPrivate::TableColumnList &list, const QHeaderV
     QCOMPARE(list.numberOfColumns(), shown.size());
     for (int index = 0; index < shown.size(); ++index)
         QCOMPARE(list.columnIndex(shown.at(index)), index);
-}
-
-void run(BrixelPrivate::TableColumnList &list, const QStringList &script)
-{
-    for (const QString &step : script) {
-        const QString argument = step.section(u' ', 1);
-        if (step.startsWith(u"hideId "))
-            list.hideColumnWithIdentifier(argument);
-        else if (step.startsWith(u"hide "))
-            list.hideColumn(argument.toInt());
-        else if (step.startsWith(u"show "))
-            list.showColumnWithIdentifier(argument);
-    }
 }
 
 // A one-row model of titled columns that can move its columns.
@@ -142,12 +105,6 @@ class TestTableColumns : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void hideAndShow_data();
-    void hideAndShow();
-    void lookups_data();
-    void lookups();
-    void sortIndicator_data();
-    void sortIndicator();
     void followsModel_data();
     void followsModel();
     void followsMovedColumns_data();
@@ -155,150 +112,6 @@ private Q_SLOTS:
     void anotherModelMakesNewColumns();
     void hiddenColumnKeepsItsWidth();
 };
-
-void TestTableColumns::hideAndShow_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QStringList>("titles");
-    QTest::addColumn<QStringList>("script");
-    QTest::addColumn<QList<int>>("shown");
-    QTest::addColumn<QList<int>>("hidden");
-
-    const QStringList abcd{u"A"_s, u"B"_s, u"C"_s, u"D"_s};
-    const QStringList duplicates{u"A"_s, u"X"_s, u"X"_s, u"D"_s};
-    for (const QString kind : {u"table"_s, u"tree"_s}) {
-        const auto row = [&](const char *name) { return &QTest::newRow(qPrintable(kind + u": "_s + QLatin1StringView(name))); };
-        *row("hide the second") << kind << abcd << QStringList{u"hide 1"_s} << QList<int>{0, 2, 3} << QList<int>{1};
-        *row("shown again at the right end") << kind << abcd << QStringList{u"hide 1"_s, u"show B"_s}
-                                             << QList<int>{0, 2, 3, 1} << QList<int>{};
-        *row("indexes count shown columns only") << kind << abcd << QStringList{u"hide 0"_s, u"hide 0"_s}
-                                                 << QList<int>{2, 3} << QList<int>{0, 1};
-        *row("show the first hidden of two") << kind << abcd << QStringList{u"hide 0"_s, u"hide 0"_s, u"show A"_s}
-                                             << QList<int>{2, 3, 0} << QList<int>{1};
-        *row("hide by identifier") << kind << abcd << QStringList{u"hideId C"_s} << QList<int>{0, 1, 3} << QList<int>{2};
-        *row("negative index ignored") << kind << abcd << QStringList{u"hide -1"_s} << QList<int>{0, 1, 2, 3} << QList<int>{};
-        *row("index past the end ignored") << kind << abcd << QStringList{u"hide 1"_s, u"hide 3"_s}
-                                           << QList<int>{0, 2, 3} << QList<int>{1};
-        *row("unknown identifiers ignored") << kind << abcd << QStringList{u"hideId Q"_s, u"show Q"_s}
-                                            << QList<int>{0, 1, 2, 3} << QList<int>{};
-        *row("showing a shown column does nothing") << kind << abcd << QStringList{u"show A"_s}
-                                                    << QList<int>{0, 1, 2, 3} << QList<int>{};
-        *row("duplicates: hides the leftmost") << kind << duplicates << QStringList{u"hideId X"_s}
-                                               << QList<int>{0, 2, 3} << QList<int>{1};
-        *row("duplicates: shows the one hidden first") << kind << duplicates
-                                                       << QStringList{u"hide 2"_s, u"hideId X"_s, u"show X"_s}
-                                                       << QList<int>{0, 3, 2} << QList<int>{1};
-        *row("hide everything and bring back") << kind << abcd
-                                               << QStringList{u"hide 0"_s, u"hide 0"_s, u"hide 0"_s, u"hide 0"_s,
-                                                              u"show D"_s, u"show B"_s}
-                                               << QList<int>{3, 1} << QList<int>{0, 2};
-    }
-}
-
-void TestTableColumns::hideAndShow()
-{
-    QFETCH(QString, kind);
-    QFETCH(QStringList, titles);
-    QFETCH(QStringList, script);
-    QFETCH(QList<int>, shown);
-    QFETCH(QList<int>, hidden);
-    const auto model = makeModel(titles);
-    const auto view = makeView(kind);
-    view->setModel(model.get());
-    view->resize(600, 200);
-    QHeaderView *header = headerOf(*view);
-    BrixelPrivate::TableColumnList list(view.get(), header);
-
-    run(list, script);
-    QCOMPARE(modelColumns(list.tableColumns()), shown);
-    QCOMPARE(modelColumns(list.hiddenTableColumns()), hidden);
-    QList<int> visualOrder;
-    for (int visual = 0; visual < header->count(); ++visual)
-        if (!header->isSectionHidden(header->logicalIndex(visual)))
-            visualOrder.append(header->logicalIndex(visual));
-    QCOMPARE(visualOrder, shown);
-    view->show();
-    QVERIFY(QTest::qWaitForWindowExposed(view.get()));
-    QStringList expectedTitles;
-    for (int logical : shown)
-        expectedTitles.append(titles.at(logical));
-    QCOMPARE(renderedTitles(*header), expectedTitles);
-    verifyConsistent(list, *header);
-}
-
-void TestTableColumns::lookups_data()
-{
-    QTest::addColumn<std::function<QVariant(const BrixelPrivate::TableColumnList &)>>("lookup");
-    QTest::addColumn<QVariant>("expected");
-
-    // Columns A, X, X, D (model columns 0..3) with the first X hidden; column indexes count
-    // the shown columns A, X (model column 2), D.
-    using Lookup = std::function<QVariant(const BrixelPrivate::TableColumnList &)>;
-    const auto modelColumnOf = [](const ZARNTableColumn *column) { return column ? column->modelColumn() : -1; };
-    QTest::newRow("column at 1") << Lookup([=](auto &l) { return modelColumnOf(l.columnAt(1)); }) << QVariant(2);
-    QTest::newRow("column at -1") << Lookup([=](auto &l) { return modelColumnOf(l.columnAt(-1)); }) << QVariant(-1);
-    QTest::newRow("column at 3") << Lookup([=](auto &l) { return modelColumnOf(l.columnAt(3)); }) << QVariant(-1);
-    QTest::newRow("index of a hidden column") << Lookup([](auto &l) { return l.columnIndex(l.columnForModelColumn(1)); })
-                                              << QVariant(-1);
-    QTest::newRow("index of null") << Lookup([](auto &l) { return l.columnIndex(nullptr); }) << QVariant(-1);
-    QTest::newRow("shown X") << Lookup([](auto &l) { return l.columnWithIdentifier(u"X"_s); }) << QVariant(1);
-    QTest::newRow("unknown identifier") << Lookup([](auto &l) { return l.columnWithIdentifier(u"x"_s); }) << QVariant(-1);
-    QTest::newRow("column with identifier D")
-        << Lookup([=](auto &l) { return modelColumnOf(l.tableColumnWithIdentifier(u"D"_s)); }) << QVariant(3);
-    QTest::newRow("hidden X") << Lookup([=](auto &l) { return modelColumnOf(l.hiddenTableColumnWithIdentifier(u"X"_s)); })
-                              << QVariant(1);
-    QTest::newRow("shown column is not a hidden one")
-        << Lookup([=](auto &l) { return modelColumnOf(l.hiddenTableColumnWithIdentifier(u"A"_s)); }) << QVariant(-1);
-    QTest::newRow("model column out of range")
-        << Lookup([=](auto &l) { return modelColumnOf(l.columnForModelColumn(4)); }) << QVariant(-1);
-}
-
-void TestTableColumns::lookups()
-{
-    QFETCH(std::function<QVariant(const BrixelPrivate::TableColumnList &)>, lookup);
-    QFETCH(QVariant, expected);
-    const auto model = makeModel({u"A"_s, u"X"_s, u"X"_s, u"D"_s});
-    QTableView view;
-    view.setModel(model.get());
-    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
-    list.hideColumn(1);
-    QCOMPARE(lookup(list), expected);
-}
-
-void TestTableColumns::sortIndicator_data()
-{
-    QTest::addColumn<int>("sortedColumn");
-    QTest::addColumn<int>("hiddenColumn");
-    QTest::addColumn<int>("indicatorAfterHiding");
-
-    QTest::newRow("on the hidden column") << 1 << 1 << -1;
-    QTest::newRow("on another column") << 2 << 1 << 2;
-}
-
-void TestTableColumns::sortIndicator()
-{
-    QFETCH(int, sortedColumn);
-    QFETCH(int, hiddenColumn);
-    QFETCH(int, indicatorAfterHiding);
-    QStandardItemModel model(3, 3);
-    model.setHorizontalHeaderLabels({u"A"_s, u"B"_s, u"C"_s});
-    const QStringList values{u"b"_s, u"c"_s, u"a"_s};
-    for (int row = 0; row < 3; ++row)
-        for (int column = 0; column < 3; ++column)
-            model.setItem(row, column, new QStandardItem(values.at((row + column) % 3)));
-    QTableView view;
-    view.setModel(&model);
-    view.setSortingEnabled(true);
-    view.sortByColumn(sortedColumn, Qt::DescendingOrder);
-    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
-    const QString firstBefore = model.index(0, 0).data().toString();
-
-    list.hideColumn(hiddenColumn);
-    QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), indicatorAfterHiding);
-    QCOMPARE(model.index(0, 0).data().toString(), firstBefore); // the rows are not re-sorted
-    list.showColumnWithIdentifier(model.headerData(hiddenColumn, Qt::Horizontal).toString());
-    QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), indicatorAfterHiding);
-}
 
 void TestTableColumns::followsModel_data()
 {

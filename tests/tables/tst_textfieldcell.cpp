@@ -87,10 +87,6 @@ private Q_SLOTS:
     void resolvesFontColourAndAlignment();
     void placesText_data();
     void placesText();
-    void selectedContentsAreRestyled_data();
-    void selectedContentsAreRestyled();
-    void shortensTextThatDoesNotFit_data();
-    void shortensTextThatDoesNotFit();
     void shortenedTextFollowsChanges();
     void background_data();
     void background();
@@ -251,90 +247,6 @@ void TestTextFieldCell::placesText()
     // The ink starts at the glyphs' own bounds inside the line box.
     QCOMPARE_LE(qAbs(ink.left() - (expectedLeft + glyphs.left())), 1.5);
     QCOMPARE_LE(qAbs(ink.top() - (expectedTop + metrics.ascent() + glyphs.top())), 1.5);
-}
-
-void TestTextFieldCell::selectedContentsAreRestyled_data()
-{
-    QTest::addColumn<quint32>("systemVersion");
-    QTest::addColumn<bool>("bold");
-    QTest::newRow("older systems: regular") << quint32(0x1039) << false;
-    QTest::newRow("0x1040 and later: bold") << quint32(0x1040) << true;
-}
-
-void TestTextFieldCell::selectedContentsAreRestyled()
-{
-    QFETCH(quint32, systemVersion);
-    QFETCH(bool, bold);
-    Brixel::ZARNSetSystemVersion(systemVersion);
-
-    QStandardItemModel model;
-    model.appendRow(item(u"Selected"_s, {{QString::number(Qt::ForegroundRole), QColor(Qt::red)}}));
-    ZARNTextFieldCell cell;
-    const QColor background(40, 40, 160);
-    const QImage image = paintCell(cell, viewOption({0, 0, 120, 40}, true), model.index(0, 0), background);
-
-    const QRect white = brixeltest::pixelBounds(image, [](const QColor &c) { return c.red() > 245 && c.green() > 245 && c.blue() > 245; });
-    const QRect red = brixeltest::pixelBounds(image, [](const QColor &c) { return c.red() > 150 && c.green() < 80; });
-    const QRect shadowed = brixeltest::pixelBounds(image, [](const QColor &c) { return c.blue() < 60; });
-    QVERIFY(!white.isNull());
-    QVERIFY(red.isNull());
-    // The standard shadow lies one pixel below the white glyphs.
-    QCOMPARE(shadowed.bottom(), white.bottom() + 1);
-    // Nothing is painted outside the glyphs and their shadow: no selection background.
-    QCOMPARE(image.pixelColor(0, 0), background);
-    QCOMPARE(image.pixelColor(119, 39), background);
-
-    const qreal regularWidth = QFontMetricsF(font(16)).tightBoundingRect(u"Selected"_s).width();
-    const qreal boldWidth = QFontMetricsF(font(16, true)).tightBoundingRect(u"Selected"_s).width();
-    const qreal expected = bold ? boldWidth : regularWidth;
-    const qreal other = bold ? regularWidth : boldWidth;
-    // The solid white ink loses a pixel or two of antialiased edge; it is nearer the expected
-    // weight's width all the same.
-    QCOMPARE_LT(qAbs(white.width() - expected), qAbs(white.width() - other));
-}
-
-void TestTextFieldCell::shortensTextThatDoesNotFit_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("cellWidth");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<QString>("shown");
-
-    const QFontMetricsF metrics(font(16));
-    const int fitsExactly = int(std::ceil(metrics.horizontalAdvance(u"Hamburg"_s))) + 4;
-    const int dotsOnly = int(std::ceil(metrics.horizontalAdvance(u"..."_s))) + 4;
-    QTest::newRow("fits") << u"Hamburg"_s << fitsExactly << false << u"Hamburg"_s;
-    QTest::newRow("one pixel short") << u"Hamburg"_s << fitsExactly - 1 << false << u"Hambu..."_s;
-    QTest::newRow("room for the dots alone") << u"Hamburg"_s << dotsOnly << false << u"..."_s;
-    QTest::newRow("too narrow for the dots draws nothing") << u"Hamburg"_s << dotsOnly - 2 << false << QString();
-    QTest::newRow("selected, too narrow") << u"Hamburg"_s << dotsOnly - 2 << true << QString();
-    QTest::newRow("zero width") << u"Hamburg"_s << 0 << false << QString();
-    QTest::newRow("empty text") << QString() << 50 << false << QString();
-}
-
-void TestTextFieldCell::shortensTextThatDoesNotFit()
-{
-    QFETCH(QString, text);
-    QFETCH(int, cellWidth);
-    QFETCH(bool, selected);
-    QFETCH(QString, shown);
-
-    QStandardItemModel model;
-    model.appendRow(item(text));
-    ZARNTextFieldCell cell;
-    const QRect rect(0, 0, cellWidth, 30);
-    const QImage image = paintCell(cell, viewOption(rect, selected), model.index(0, 0), Qt::darkBlue);
-    const QRect ink = differingPixels(image, Qt::darkBlue);
-    if (shown.isEmpty()) {
-        QVERIFY(ink.isNull());
-        return;
-    }
-    // What is drawn is exactly what the expected text draws, in the same place.
-    QStandardItemModel expectedModel;
-    expectedModel.appendRow(item(shown));
-    QStyleOptionViewItem wide = viewOption({0, 0, 120, 30}, selected);
-    const QImage expected = paintCell(cell, wide, expectedModel.index(0, 0), Qt::darkBlue);
-    QCOMPARE(image, expected);
 }
 
 // The cell keeps the texts it has shortened; what it draws must still follow the width, the

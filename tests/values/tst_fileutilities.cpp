@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
-#include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -23,7 +22,6 @@ private Q_SLOTS:
     void uniquePathInUnreadableFolder();
     void fileNameOrders_data();
     void fileNameOrders();
-    void lastPathComponentOrderFollowsLocale();
     void xmlTreeAtPath_data();
     void xmlTreeAtPath();
 };
@@ -115,15 +113,6 @@ void TestFileUtilities::fileNameOrders()
     QFETCH(int, collated);
     QCOMPARE(Brixel::ZARNCompareDirectoryContents(a, b), listing);
     QCOMPARE(Brixel::ZARNCompareLastPathComponent(a, b), collated);
-}
-
-void TestFileUtilities::lastPathComponentOrderFollowsLocale()
-{
-    QCOMPARE(Brixel::ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s), -1);
-    QLocale::setDefault(QLocale(QLocale::Swedish));
-    const int swedish = Brixel::ZARNCompareLastPathComponent(u"\u00F6"_s, u"z"_s);
-    QLocale::setDefault(QLocale::c());
-    QCOMPARE(swedish, 1);
 }
 
 void TestFileUtilities::xmlTreeAtPath_data()
