@@ -53,6 +53,7 @@ void TestEditingMoves::target_data()
     QTest::newRow("tab: extreme indexes") << Tab << Cell{INT_MAX, INT_MAX} << 4 << scattered << "(0, 2)";
     QTest::newRow("backtab: extreme indexes") << Backtab << Cell{INT_MIN, INT_MIN} << 4 << scattered << "(3, 2)";
     QTest::newRow("return: extreme row") << Return << Cell{INT_MAX, 1} << 4 << scattered << "(2, 1)";
+    QTest::newRow("return: column out of range") << Return << Cell{1, 3} << 4 << scattered << "none";
 }
 
 void TestEditingMoves::target()

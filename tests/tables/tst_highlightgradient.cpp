@@ -52,6 +52,7 @@ void TestHighlightGradient::colours()
     QFETCH(QColor, top);
     QFETCH(QColor, bottom);
     HighlightGradientCache cache;
+    QCOMPARE(cache.image(qQNaN(), systemHighlight).height(), 1);
     const QImage image = cache.image(18, systemHighlight);
     for (int x : {0, 63}) {
         const QColor first = image.pixelColor(x, 0);

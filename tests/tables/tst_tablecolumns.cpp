@@ -44,6 +44,7 @@ std::unique_ptr<QStandardItemModel> makeModel(const QStringList &titles)
 void verifyConsistent(const BrixelPrivate::TableColumnList &list, const QHeaderView &header)
 {
     QCOMPARE(list.columnForModelColumn(header.count()), nullptr);
+    QCOMPARE(list.columnIndex(nullptr), -1);
     for (int logical = 0; logical < header.count(); ++logical) {
         const ZARNTableColumn *column = list.columnForModelColumn(logical);
         QVERIFY(column);
