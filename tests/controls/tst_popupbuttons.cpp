@@ -113,6 +113,9 @@ void TestPopUpButtons::selection_data()
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, b.selectItemWithTag(99));
     }) << 1 << u"B"_s << QList<bool>{false, true, false};
     QTest::newRow("removing all items keeps the index") << Operation([](auto &b) {
+        b.menu()->removeAction(b.menu()->actions().at(2));
+        b.menu()->removeAction(b.menu()->actions().at(1));
+        QVERIFY_THROWS_EXCEPTION(std::out_of_range, b.selectedItem());   // the index is now the count
         b.removeAllItems();
         QVERIFY(!b.lastItem());
         QVERIFY_THROWS_EXCEPTION(std::out_of_range, b.selectedItem());

@@ -29,6 +29,12 @@ ZARNCalendarDate at(const QString &isoLocal, const QTimeZone &zone = QTimeZone()
                                           local.time().hour(), local.time().minute(), local.time().second(), zone);
 }
 
+class FixedClock : public ZARNClock
+{
+public:
+    double now() const override { return 1715783420.25; } // Wed 2024-05-15 14:30:20.25 UTC
+};
+
 } // namespace
 
 class TestCalendarDate : public QObject
@@ -44,6 +50,7 @@ private Q_SLOTS:
     void formats();
     void parses_data();
     void parses();
+    void converts();
 };
 
 void TestCalendarDate::arithmetic_data()
@@ -159,6 +166,33 @@ void TestCalendarDate::parses()
     QCOMPARE(date ? fields(*date) : QString(), expected);
     if (date)
         QCOMPARE(date->timeZone(), TestZone);
+}
+
+void TestCalendarDate::converts()
+{
+    const ZARNCalendarDate utc = ZARNCalendarDate::dateWithTimeIntervalSince1970(1715783420.25, QTimeZone::utc());
+    QCOMPARE(fields(utc), u"Wed 2024-05-15 14:30:20"_s);
+    QCOMPARE(utc.timeIntervalSince1970(), 1715783420.25);
+    QCOMPARE(fields(ZARNCalendarDate::dateWithTimeIntervalSince1970(1715783420.25)), u"Wed 2024-05-15 09:30:20"_s);
+    QCOMPARE(ZARNCalendarDate::dateWithTimeIntervalSince1970(std::nan("")).timeIntervalSince1970(), 0.0);
+    const double infinity = std::numeric_limits<double>::infinity();
+    QCOMPARE(fields(ZARNCalendarDate::dateWithTimeIntervalSince1970(infinity)), u"Fri 9999-12-31 23:59:59"_s);
+    QCOMPARE(fields(ZARNCalendarDate::dateWithTimeIntervalSince1970(-infinity)), u"Mon 0001-01-01 00:00:00"_s);
+
+    const QDateTime elsewhere(QDate(2024, 5, 15), QTime(16, 30, 20), QTimeZone(2 * 3600));
+    QCOMPARE(ZARNCalendarDate::fromDateTime(elsewhere).toDateTime(), elsewhere);
+    QCOMPARE(ZARNCalendarDate::fromDateTime(elsewhere).timeZone(), QTimeZone(2 * 3600));
+    QVERIFY(ZARNCalendarDate::fromDateTime(QDateTime()) == ZARNCalendarDate());
+
+    ZARNClock::setCurrent(std::make_unique<FixedClock>());
+    QCOMPARE(ZARNCalendarDate::date().timeIntervalSince1970(), 1715783420.25);
+    QCOMPARE(ZARNCalendarDate::date().timeZone(), TestZone);
+    QVERIFY(ZARNClock::system().now() > 1715783420.25);   // the machine's clock stays reachable
+    ZARNCalendarDate::setDefaultTimeZone(QTimeZone());
+    QCOMPARE(ZARNCalendarDate::date().timeZone(), QTimeZone::systemTimeZone());
+    ZARNCalendarDate::setDefaultTimeZone(TestZone);
+    ZARNClock::setCurrent(nullptr);   // back to the machine's clock
+    QVERIFY(qAbs(ZARNCalendarDate::date().timeIntervalSince1970() - QDateTime::currentMSecsSinceEpoch() / 1000.0) < 5);
 }
 
 QTEST_GUILESS_MAIN(TestCalendarDate)

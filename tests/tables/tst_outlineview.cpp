@@ -513,6 +513,7 @@ void TestOutlineView::hidingColumns()
     QCOMPARE(f.view.treePosition(), treePositionAfter);
     QCOMPARE(f.view.numberOfColumns(), shown.size());
     QCOMPARE(f.view.hiddenTableColumns().size(), 3 - shown.size());
+    QCOMPARE(f.view.tableColumnWithIdentifier(shown.first())->identifier(), shown.first());
 }
 
 void TestOutlineView::drops_data()

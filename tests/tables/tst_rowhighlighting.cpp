@@ -4,7 +4,11 @@
 
 #include <BrixelTest.h>
 
+#include <QPainter>
 #include <QTest>
+
+#include <climits>
+#include <functional>
 
 using namespace BrixelPrivate;
 
@@ -12,6 +16,41 @@ Q_DECLARE_METATYPE(BrixelPrivate::DropPosition)
 Q_DECLARE_METATYPE(std::optional<QLineF>)
 
 namespace {
+
+const QColor outline(200, 0, 0);
+const QColor fill(0, 0, 200);
+const QColor none(Qt::transparent);
+const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
+
+QImage picture(const std::function<void(QPainter &)> &draw)
+{
+    QImage image(120, 30, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    draw(painter);
+    return image;
+}
+
+QColor withAlpha(QColor colour, int alpha)
+{
+    colour.setAlpha(alpha);
+    return colour;
+}
+
+using Expectations = QList<std::pair<QPoint, QColor>>;
+
+void verifyPixels(const QImage &image, const Expectations &expectations, int tolerance = 3)
+{
+    for (const auto &[point, expected] : expectations) {
+        const QColor actual = brixeltest::colorAt(image, point);
+        // Fully transparent pixels carry no colour worth comparing.
+        const bool matches = expected.alpha() == 0 ? actual.alpha() <= tolerance
+                                                   : brixeltest::colorsClose(actual, expected, tolerance);
+        QVERIFY2(matches, qPrintable(QStringLiteral("(%1, %2): %3, expected %4")
+                                         .arg(point.x()).arg(point.y())
+                                         .arg(actual.name(QColor::HexArgb), expected.name(QColor::HexArgb))));
+    }
+}
 
 QRectF rowRect(int row)
 {
@@ -31,6 +70,8 @@ private Q_SLOTS:
     void dropLine();
     void dropPosition_data();
     void dropPosition();
+    void drops_data();
+    void drops();
 };
 
 void TestRowHighlighting::init()
@@ -119,6 +160,49 @@ void TestRowHighlighting::dropPosition()
     QFETCH(bool, accepts);
     QFETCH(DropPosition, position);
     QCOMPARE(dropPositionInRow(rowRect, y, accepts), position);
+}
+
+void TestRowHighlighting::drops_data()
+{
+    QTest::addColumn<int>("kind");   // 0: on the view, 1: unselected row, 2: selected row, 3: marker
+    QTest::addColumn<Expectations>("pixels");
+
+    const QColor frame = withAlpha(outline, 230);   // alpha 0.9
+    // The view's frame: 2 pixels just inside the bounds (0, 0, 120, 30).
+    QTest::newRow("on the view") << 0
+        << Expectations{{{0, 0}, frame}, {{1, 15}, frame}, {{2, 15}, none}, {{119, 29}, frame}, {{60, 28}, frame}, {{60, 27}, none}};
+    // The row's drop rectangle (11, 7, 98, 15), outlined 2 wide around its edge.
+    QTest::newRow("unselected row: faint fill, outline at 0.9") << 1
+        << Expectations{{{60, 14}, withAlpha(fill, 38)}, {{60, 6}, frame}, {{60, 4}, none}, {{10, 14}, frame}};
+    QTest::newRow("selected row: outline only") << 2
+        << Expectations{{{60, 14}, none}, {{60, 6}, outline}, {{60, 7}, outline}, {{60, 8}, none}};
+    // Line (20, 15) to (110, 15): the circle (14, 12, 6, 6) ends at its start.
+    QTest::newRow("marker between rows") << 3
+        << Expectations{{{17, 15}, Qt::white}, {{14, 15}, outline}, {{60, 14}, outline}, {{60, 15}, outline},
+                        {{60, 13}, none}, {{60, 16}, none}, {{109, 15}, outline}, {{110, 15}, none}};
+}
+
+void TestRowHighlighting::drops()
+{
+    QFETCH(int, kind);
+    QFETCH(Expectations, pixels);
+    const SelectionColors colors{fill, outline, true};
+    const QImage image = picture([&](QPainter &painter) {
+        switch (kind) {
+        case 0:
+            drawDropHighlightOnView(painter, QRectF(0, 0, 120, 30), colors);
+            break;
+        case 1:
+        case 2:
+            drawDropHighlightOnRow(painter, dropHighlightRect(row, false), kind == 2, colors);
+            break;
+        default:
+            drawDropMarker(painter, QLineF(20, 15, 110, 15), colors);
+        }
+    });
+    verifyPixels(image, pixels);
+    // Drawing a row or a marker leaves the default line width at 2.
+    QCOMPARE(Brixel::bezierPathDefaultLineWidth(), kind == 0 ? 1.0f : 2.0f);
 }
 
 QTEST_MAIN(TestRowHighlighting)

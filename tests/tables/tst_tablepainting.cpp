@@ -85,6 +85,11 @@ QColor over(const QColor &colour, qreal alpha, const QColor &below = Qt::white)
                             colour.blueF() * alpha + below.blueF() * (1 - alpha));
 }
 
+bool isText(const QColor &colour)
+{
+    return colour.lightness() < 128;
+}
+
 } // namespace
 
 class TestTablePainting : public QObject
@@ -94,6 +99,8 @@ private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
     void selectedRow_data();
     void selectedRow();
+    void textCellInset_data();
+    void textCellInset();
     void emptyMessage_data();
     void emptyMessage();
     void dropFeedback_data();
@@ -162,6 +169,31 @@ void TestTablePainting::selectedRow()
     QVERIFY2(colorsClose(got, want, 6), qPrintable(u"%1 at (%2, %3), want %4"_s.arg(got.name()).arg(at.x()).arg(at.y()).arg(want.name())));
     if (!focused)
         QVERIFY(colorsClose(Brixel::selectionColor(&table.view), QColor::fromRgbF(0.7f, 0.7f, 0.7f)));
+}
+
+void TestTablePainting::textCellInset_data()
+{
+    QTest::addColumn<quint32>("style");
+    QTest::addColumn<bool>("inset");
+    QTest::newRow("rectangle") << quint32(ZARNTableView::HighlightStyle::Rectangle) << false;
+    QTest::newRow("capsule") << quint32(ZARNTableView::HighlightStyle::Capsule) << true;
+    QTest::newRow("rounded rectangle") << quint32(ZARNTableView::HighlightStyle::RoundedRectangle) << true;
+    QTest::newRow("unknown style") << quint32(7) << false;
+}
+
+void TestTablePainting::textCellInset()
+{
+    QFETCH(quint32, style);
+    QFETCH(bool, inset);
+
+    Table table(2);
+    const auto textLeft = [&] {
+        return brixeltest::pixelBounds(table.render().copy(table.view.rectOfRow(0)), isText).left();
+    };
+    const int plainLeft = textLeft();
+    table.view.setHighlightStyle(ZARNTableView::HighlightStyle(style));
+    const int shift = inset ? BrixelPrivate::textCellInset(table.view.rectOfRow(0).height()) : 0;
+    QCOMPARE(textLeft(), plainLeft + shift);
 }
 
 void TestTablePainting::emptyMessage_data()

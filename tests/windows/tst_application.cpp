@@ -175,6 +175,7 @@ void TestApplication::attention()
     ZARNUserAttention::setCurrent(std::move(recorder));
     auto *application = static_cast<ZARNApplication *>(qApp);
     application->setShortCircuitRequestUserAttention(shortCircuit);
+    QCOMPARE(application->shortCircuitRequestUserAttention(), shortCircuit);
 
     QCOMPARE(application->requestUserAttention(type), result);
     QCOMPARE(recorded.requests.size(), requests);

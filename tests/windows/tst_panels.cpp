@@ -71,6 +71,7 @@ void TestPanels::alertButtons()
     QFETCH(bool, button2Shown);
     // A wider title moves button 1's left edge, and buttons 2 and 3 with it, by its growth.
     const std::unique_ptr<BXAlert> alert = makeAlert(u"OK"_s, button2Title, u"Other"_s);
+    QCOMPARE(alert->button2Title(), button2Title);
     QPushButton *button1 = alert->button1();
     const int right = button1->geometry().right();
     const QList<int> lefts{button1->x(), alert->button2()->x(), alert->button3()->x()};
