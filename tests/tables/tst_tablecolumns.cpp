@@ -106,6 +106,8 @@ class TestTableColumns : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void sortIndicator_data();
+    void sortIndicator();
     void followsModel_data();
     void followsModel();
     void followsMovedColumns_data();
@@ -113,6 +115,41 @@ private Q_SLOTS:
     void anotherModelMakesNewColumns();
     void hiddenColumnKeepsItsWidth();
 };
+
+void TestTableColumns::sortIndicator_data()
+{
+    QTest::addColumn<int>("sortedColumn");
+    QTest::addColumn<int>("hiddenColumn");
+    QTest::addColumn<int>("indicatorAfterHiding");
+
+    QTest::newRow("on the hidden column") << 1 << 1 << -1;
+    QTest::newRow("on another column") << 2 << 1 << 2;
+}
+
+void TestTableColumns::sortIndicator()
+{
+    QFETCH(int, sortedColumn);
+    QFETCH(int, hiddenColumn);
+    QFETCH(int, indicatorAfterHiding);
+    QStandardItemModel model(3, 3);
+    model.setHorizontalHeaderLabels({u"A"_s, u"B"_s, u"C"_s});
+    const QStringList values{u"b"_s, u"c"_s, u"a"_s};
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 3; ++column)
+            model.setItem(row, column, new QStandardItem(values.at((row + column) % 3)));
+    QTableView view;
+    view.setModel(&model);
+    view.setSortingEnabled(true);
+    view.sortByColumn(sortedColumn, Qt::DescendingOrder);
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
+    const QString firstBefore = model.index(0, 0).data().toString();
+
+    list.hideColumn(hiddenColumn);
+    QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), indicatorAfterHiding);
+    QCOMPARE(model.index(0, 0).data().toString(), firstBefore); // the rows are not re-sorted
+    list.showColumnWithIdentifier(model.headerData(hiddenColumn, Qt::Horizontal).toString());
+    QCOMPARE(view.horizontalHeader()->sortIndicatorSection(), indicatorAfterHiding);
+}
 
 void TestTableColumns::followsModel_data()
 {
