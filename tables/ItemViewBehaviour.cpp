@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHeaderView>
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QItemSelectionModel>
@@ -218,6 +219,16 @@ bool ItemViewBehaviour::inLiveResize() const
 void ItemViewBehaviour::noteResize()
 {
     m_liveResizeTimer.start();
+}
+
+void ItemViewBehaviour::followColumnWidths(QHeaderView *header)
+{
+    connect(header, &QHeaderView::sectionResized, this, [this] { m_columnWidthsChanged = true; });
+}
+
+bool ItemViewBehaviour::takeColumnWidthsChanged()
+{
+    return std::exchange(m_columnWidthsChanged, false);
 }
 
 } // namespace BrixelPrivate
