@@ -295,7 +295,8 @@ BrixelPrivate::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter, 
     QStyleOptionViewItem option;
     q->initViewItemOption(&option);
     // The text-cell inset keeps clear of the disclosure markers' column.
-    BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), outlineColumnIndex() != 0};
+    BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(),
+                                               outlineModelColumn() != columns->firstShownModelColumn()};
     options.setsItemPosition = true;
     BrixelPrivate::RowPainter::CellNotice notice;
     if (delegate) {
