@@ -87,6 +87,33 @@ ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view)
                 Q_EMIT applicationBecameActive();
         });
     }
+    view->viewport()->installEventFilter(this);
+}
+
+QModelIndex ItemViewBehaviour::hoveredIndex() const
+{
+    return m_hovered;
+}
+
+// The views paint cells themselves, so they follow the pointer as QAbstractItemView does for
+// its own painting: from the viewport's hover events.
+bool ItemViewBehaviour::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_view->viewport())
+        return false;
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        m_hovered = m_view->indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
+        break;
+    case QEvent::HoverLeave:
+    case QEvent::Leave:
+        m_hovered = QPersistentModelIndex();
+        break;
+    default:
+        break;
+    }
+    return false;
 }
 
 ItemViewBehaviour::~ItemViewBehaviour() = default;

@@ -151,6 +151,12 @@ public:
     /// To be called from the view's resizeEvent(): (re)starts the live resize.
     void noteResize();
 
+    /// The cell under the pointer, followed from the viewport's hover events as Qt's views
+    /// follow it; invalid when the pointer is elsewhere.
+    QModelIndex hoveredIndex() const;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     /// Notes every change of a column's width in \a header, the view's column header.
     void followColumnWidths(QHeaderView *header);
 
@@ -175,6 +181,7 @@ private:
     QPointer<QMenu> m_menu;
     QMetaObject::Connection m_menuHidden;
     QPersistentModelIndex m_contextMenuItem;
+    QPersistentModelIndex m_hovered;
     QTimer m_liveResizeTimer;
     bool m_inDragPrep = false;
     bool m_columnWidthsChanged = false;

@@ -191,17 +191,46 @@ void RowPainter::drawCell(const Column &column, const QModelIndex &index, const 
     // One option serves the whole pass; only what differs per cell is set and put back.
     const QStyle::State passState = m_option.state;
     const QStyleOptionViewItem::ViewItemFeatures passFeatures = m_option.features;
+    const QPalette::ColorGroup passGroup = m_option.palette.currentColorGroup();
     m_option.rect = frame;
     m_option.index = index;
     m_option.state |= row.state;
     if (row.selected && !m_options.inDragPrep)
         m_option.state |= QStyle::State_Selected;
+    if (isHovered(index))
+        m_option.state |= QStyle::State_MouseOver;
+    applyEnabledState(index);
     m_option.features.setFlag(QStyleOptionViewItem::Alternate, row.alternate);
     if (m_options.setsItemPosition)
         m_option.viewItemPosition = column.position;
     cell->paint(&m_painter, m_option, index);
     m_option.state = passState;
     m_option.features = passFeatures;
+    m_option.palette.setCurrentColorGroup(passGroup);
+}
+
+bool RowPainter::isHovered(const QModelIndex &index) const
+{
+    const QModelIndex &hovered = m_options.hoveredIndex;
+    if (!hovered.isValid())
+        return false;
+    return index == hovered || (m_options.hoverMarksRow && index.row() == hovered.row() && index.parent() == hovered.parent());
+}
+
+// In an enabled view a disabled item is drawn disabled, in the Disabled colour group, as
+// Qt's views draw it.
+void RowPainter::applyEnabledState(const QModelIndex &index)
+{
+    if (!m_option.state.testFlag(QStyle::State_Enabled))
+        return;
+    QPalette::ColorGroup group = QPalette::Active;
+    if (!index.flags().testFlag(Qt::ItemIsEnabled)) {
+        m_option.state &= ~QStyle::State_Enabled;
+        group = QPalette::Disabled;
+    } else if (m_options.colorGroupFollowsActivity && !m_option.state.testFlag(QStyle::State_Active)) {
+        group = QPalette::Inactive;
+    }
+    m_option.palette.setCurrentColorGroup(group);
 }
 
 void RowPainter::notify(const Column &column, const QModelIndex &index) const

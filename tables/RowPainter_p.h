@@ -87,6 +87,13 @@ public:
         /// Tell each cell where it sits in the row (QStyleOptionViewItem::viewItemPosition),
         /// as QTreeView does; QTableView leaves it Invalid.
         bool setsItemPosition = false;
+        /// The cell under the pointer: it gets QStyle::State_MouseOver.
+        QModelIndex hoveredIndex = {};
+        /// The whole row of hoveredIndex gets State_MouseOver, as in QTreeView selecting rows.
+        bool hoverMarksRow = false;
+        /// Enabled cells draw in the Inactive colour group outside the active window, as in
+        /// QTreeView; QTableView keeps them Active.
+        bool colorGroupFollowsActivity = false;
     };
 
     /// One row to draw.
@@ -166,6 +173,8 @@ private:
 
     void drawCell(const Column &column, const QModelIndex &index, const Row &row);
     void notify(const Column &column, const QModelIndex &index) const;
+    bool isHovered(const QModelIndex &index) const;
+    void applyEnabledState(const QModelIndex &index);
     std::optional<QModelIndex> spanAnchorToDraw(const QModelIndex &index);
 
     QPainter &m_painter;

@@ -298,6 +298,9 @@ BrixelPrivate::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter, 
     BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(),
                                                outlineModelColumn() != columns->firstShownModelColumn()};
     options.setsItemPosition = true;
+    options.hoveredIndex = behaviour->hoveredIndex();
+    options.hoverMarksRow = q->selectionBehavior() == QAbstractItemView::SelectRows;
+    options.colorGroupFollowsActivity = true;
     BrixelPrivate::RowPainter::CellNotice notice;
     if (delegate) {
         notice = [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {

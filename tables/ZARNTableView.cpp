@@ -130,8 +130,9 @@ public:
                 delegate->tableViewWillDisplayCell(q, cell, column, index.row());
             };
         }
-        return BrixelPrivate::RowPainter(painter, *q, std::move(option), *columns, area,
-                                         {highlightStyle, behaviour->inDragPrep(), true}, std::move(notice),
+        BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), true};
+        options.hoveredIndex = behaviour->hoveredIndex();
+        return BrixelPrivate::RowPainter(painter, *q, std::move(option), *columns, area, options, std::move(notice),
                                          [this] { return q->highlightGradientImage(); });
     }
 

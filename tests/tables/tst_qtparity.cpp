@@ -7,6 +7,7 @@
 
 #include <BrixelTest.h>
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QStandardItemModel>
@@ -31,7 +32,9 @@ public:
                            .arg(index.column()).arg(option.viewItemPosition)
                            .arg(option.features.testFlag(QStyleOptionViewItem::Alternate) ? 1 : 0)
                            .arg(flag(QStyle::State_Selected)).arg(flag(QStyle::State_Sibling))
-                           .arg(flag(QStyle::State_Children)).arg(flag(QStyle::State_Open)));
+                           .arg(flag(QStyle::State_Children)).arg(flag(QStyle::State_Open))
+                       + u" en%1 hover%2 group%3"_s.arg(flag(QStyle::State_Enabled)).arg(flag(QStyle::State_MouseOver))
+                           .arg(option.palette.currentColorGroup()));
         rects.append(option.rect);
     }
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
@@ -70,6 +73,13 @@ void fill(QStandardItemModel &model, int rows, int columns, bool tree = false)
     }
     for (int child = 0; tree && child < 2; ++child)
         model.item(0)->appendRow({new QStandardItem(u"child"_s), new QStandardItem(u"x"_s), new QStandardItem(u"y"_s)});
+}
+
+/// Moves the pointer over \a view's viewport at \a position, as the platform reports it.
+void hover(QAbstractItemView &view, QPoint position)
+{
+    QHoverEvent event(QEvent::HoverMove, position, view.viewport()->mapToGlobal(position), position);
+    QApplication::sendEvent(view.viewport(), &event);
 }
 
 /// The cells \a view's viewport asks \a spy to paint in one full repaint.
@@ -119,10 +129,14 @@ void TestQtParity::tablePaintsWhatQTableViewPaints()
         prepare(*table, model, spy, {300, 200});
         table->setSpan(1, 1, 2, 2);
         table->selectionModel()->select(model.index(3, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        hover(*table, table->visualRect(model.index(4, 1)).center());
     }
+    model.item(5, 0)->setEnabled(false);
     const QStringList expected = paintedCells(qtView, spy);
-    QVERIFY(expected.contains(u"-1/1:1 pos0 alt1 sel0 sib0 kids0 open0"_s));
-    QVERIFY(!expected.contains(u"-1/2:2 pos0 alt0 sel0 sib0 kids0 open0"_s));
+    QVERIFY(expected.contains(u"-1/1:1 pos0 alt1 sel0 sib0 kids0 open0 en1 hover0 group0"_s));
+    QVERIFY(expected.contains(u"-1/4:1 pos0 alt0 sel0 sib0 kids0 open0 en1 hover1 group0"_s));
+    QVERIFY(expected.contains(u"-1/5:0 pos0 alt1 sel0 sib0 kids0 open0 en0 hover0 group1"_s));
+    QVERIFY(!expected.join(u' ').contains(u"-1/2:2 "_s));
     QVERIFY(expected.size() < 60);
     QCOMPARE(paintedCells(view, spy), expected);
 
@@ -144,14 +158,19 @@ void TestQtParity::outlinePaintsWhatQTreeViewPaints()
         tree->expandAll();
         tree->setFirstColumnSpanned(2, {}, true);
         tree->selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        tree->setSelectionBehavior(QAbstractItemView::SelectRows);
+        hover(*tree, tree->visualRect(model.index(3, 2)).center());
     }
+    model.item(3, 1)->setEnabled(false);
     const QStringList expected = paintedCells(qtView, spy);
-    QVERIFY(expected.contains(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1"_s));
+    QVERIFY(expected.contains(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s));
+    QVERIFY(expected.contains(u"-1/3:0 pos1 alt1 sel0 sib0 kids0 open1 en1 hover1 group2"_s));
+    QVERIFY(expected.contains(u"-1/3:1 pos2 alt1 sel0 sib0 kids0 open1 en0 hover1 group1"_s));
     QCOMPARE(paintedCells(view, spy), expected);
 
     // The spanned row's one cell reaches across the row.
     brixeltest::renderWidget(*view.viewport());
-    const qsizetype spanned = spy.painted.indexOf(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1"_s);
+    const qsizetype spanned = spy.painted.indexOf(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s);
     QVERIFY(spanned >= 0);
     QCOMPARE(spy.rects[spanned].right(), view.header()->length() - 1);
 }
