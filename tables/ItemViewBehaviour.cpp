@@ -87,7 +87,8 @@ ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view)
                 Q_EMIT applicationBecameActive();
         });
     }
-    view->viewport()->installEventFilter(this);
+    m_viewport = view->viewport();
+    m_viewport->installEventFilter(this);
 }
 
 QModelIndex ItemViewBehaviour::hoveredIndex() const
@@ -99,7 +100,9 @@ QModelIndex ItemViewBehaviour::hoveredIndex() const
 // its own painting: from the viewport's hover events.
 bool ItemViewBehaviour::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != m_view->viewport())
+    // The viewport outlives the view's own destructor by a little; only its object is
+    // compared until an event needs the view.
+    if (watched != m_viewport)
         return false;
     switch (event->type()) {
     case QEvent::HoverEnter:

@@ -182,6 +182,7 @@ private:
     QMetaObject::Connection m_menuHidden;
     QPersistentModelIndex m_contextMenuItem;
     QPersistentModelIndex m_hovered;
+    QObject *m_viewport = nullptr; // watched for hover events; only compared, as it may be mid-destruction
     QTimer m_liveResizeTimer;
     bool m_inDragPrep = false;
     bool m_columnWidthsChanged = false;

@@ -60,6 +60,9 @@ QStyleOptionViewItem::ViewItemPosition itemPosition(bool first, bool last)
 std::pair<int, int> visualSectionsBetween(const QHeaderView &header, int left, int right)
 {
     const int count = header.count();
+    // Right to left, positions run the other way; every section is drawn then.
+    if (header.isRightToLeft())
+        return {0, count - 1};
     if (count == 0 || right < 0 || left >= header.length() - header.offset())
         return {0, -1};
     const int first = header.visualIndexAt(std::max(left, 0));

@@ -143,6 +143,14 @@ void TestQtParity::tablePaintsWhatQTableViewPaints()
     view.horizontalScrollBar()->setValue(3);
     qtView.horizontalScrollBar()->setValue(3);
     QCOMPARE(paintedCells(view, spy), paintedCells(qtView, spy));
+
+    // Right to left every column is drawn: at least the cells Qt draws.
+    view.setLayoutDirection(Qt::RightToLeft);
+    qtView.setLayoutDirection(Qt::RightToLeft);
+    const QStringList rightToLeft = paintedCells(qtView, spy);
+    QVERIFY(!rightToLeft.isEmpty());
+    const QStringList ours = paintedCells(view, spy);
+    QVERIFY(QSet(ours.cbegin(), ours.cend()).contains(QSet(rightToLeft.cbegin(), rightToLeft.cend())));
 }
 
 // Positions in the row, alternate rows, the branch states and a first-column-spanned row.
