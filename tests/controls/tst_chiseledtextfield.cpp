@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/NSMutableAttributedString_Category.h>
 #include <Brixel/ZARNAttributedString.h>
 #include <Brixel/ZARNChiseledTextField.h>
 #include <Brixel/ZARNNSColorAdditions.h>
@@ -7,13 +6,10 @@
 
 #include "BrixelTest.h"
 
-#include <QBuffer>
 #include <QDataStream>
 #include <QDialog>
 #include <QMainWindow>
-#include <QPainter>
 #include <QTest>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using brixeltest::colorsClose;
@@ -49,12 +45,6 @@ QRect boundsOf(const QImage &image, const QColor &color)
 {
     return brixeltest::pixelBounds(image, [&](const QColor &pixel) { return colorsClose(pixel, color, 3); });
 }
-
-struct Look
-{
-    QColor text;
-    QColor shadow;
-};
 
 } // namespace
 
