@@ -13,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 using brixeltest::colorsClose;
+using brixeltest::renderOverWhite;
 
 namespace {
 
@@ -29,16 +30,6 @@ QColor greyOverWhite(double grey, double alpha)
 {
     const double shown = grey * alpha + (1.0 - alpha);
     return QColor::fromRgbF(shown, shown, shown);
-}
-
-// The field as it shows over a white window.
-QImage renderOverWhite(QWidget &field)
-{
-    field.ensurePolished();
-    QImage image(field.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    field.render(&image, {}, {}, QWidget::DrawChildren);
-    return image;
 }
 
 QRect boundsOf(const QImage &image, const QColor &color)
@@ -131,13 +122,10 @@ void TestChiseledTextField::engraving()
     const QImage image = renderOverWhite(field);
 
     // Font smoothing is off: every pixel is the background or one of the two colours.
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            if (!colorsClose(pixel, Qt::white, 3) && !colorsClose(pixel, text, 3) && !colorsClose(pixel, shadow, 3))
-                QFAIL(qPrintable(u"smoothed pixel at %1, %2"_s.arg(x).arg(y)));
-        }
-    }
+    const QRect smoothed = brixeltest::pixelBounds(image, [&](const QColor &pixel) {
+        return !colorsClose(pixel, Qt::white, 3) && !colorsClose(pixel, text, 3) && !colorsClose(pixel, shadow, 3);
+    });
+    QVERIFY2(smoothed.isNull(), qPrintable(QDebug::toString(smoothed)));
     const QRect own = boundsOf(image, text);
     const QRect engraving = boundsOf(image, shadow);
     QVERIFY(!own.isNull());
