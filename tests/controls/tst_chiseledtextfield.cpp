@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include <Brixel/NSMutableAttributedString_Category.h>
 #include <Brixel/ZARNAttributedString.h>
 #include <Brixel/ZARNChiseledTextField.h>
 #include <Brixel/ZARNNSColorAdditions.h>
@@ -7,16 +6,14 @@
 
 #include "BrixelTest.h"
 
-#include <QBuffer>
 #include <QDataStream>
 #include <QDialog>
 #include <QMainWindow>
-#include <QPainter>
 #include <QTest>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 using brixeltest::colorsClose;
+using brixeltest::renderOverWhite;
 
 namespace {
 
@@ -35,26 +32,10 @@ QColor greyOverWhite(double grey, double alpha)
     return QColor::fromRgbF(shown, shown, shown);
 }
 
-// The field as it shows over a white window.
-QImage renderOverWhite(QWidget &field)
-{
-    field.ensurePolished();
-    QImage image(field.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    field.render(&image, {}, {}, QWidget::DrawChildren);
-    return image;
-}
-
 QRect boundsOf(const QImage &image, const QColor &color)
 {
     return brixeltest::pixelBounds(image, [&](const QColor &pixel) { return colorsClose(pixel, color, 3); });
 }
-
-struct Look
-{
-    QColor text;
-    QColor shadow;
-};
 
 } // namespace
 
@@ -141,13 +122,10 @@ void TestChiseledTextField::engraving()
     const QImage image = renderOverWhite(field);
 
     // Font smoothing is off: every pixel is the background or one of the two colours.
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            if (!colorsClose(pixel, Qt::white, 3) && !colorsClose(pixel, text, 3) && !colorsClose(pixel, shadow, 3))
-                QFAIL(qPrintable(u"smoothed pixel at %1, %2"_s.arg(x).arg(y)));
-        }
-    }
+    const QRect smoothed = brixeltest::pixelBounds(image, [&](const QColor &pixel) {
+        return !colorsClose(pixel, Qt::white, 3) && !colorsClose(pixel, text, 3) && !colorsClose(pixel, shadow, 3);
+    });
+    QVERIFY2(smoothed.isNull(), qPrintable(QDebug::toString(smoothed)));
     const QRect own = boundsOf(image, text);
     const QRect engraving = boundsOf(image, shadow);
     QVERIFY(!own.isNull());

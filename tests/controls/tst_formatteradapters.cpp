@@ -4,7 +4,6 @@
 #include <Brixel/ZARNFormatterValidator.h>
 
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTest>

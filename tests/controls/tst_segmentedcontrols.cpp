@@ -77,10 +77,7 @@ void TestSegmentedControls::separators()
     control.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&control));
 
-    QImage image(control.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    control.render(&image, {}, {}, QWidget::DrawChildren);
-    QCOMPARE(separatorColumns(image, 10), columns);
+    QCOMPARE(separatorColumns(brixeltest::renderOverWhite(control), 10), columns);
     QCOMPARE(ZARNSegmentedControl::separatorsForSegmentedControl(&control).size(), columns.size());
 
     // In a window that is not active the separators are recorded but not drawn.
@@ -88,9 +85,7 @@ void TestSegmentedControls::separators()
     other.show();
     other.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&other));
-    image.fill(Qt::white);
-    control.render(&image, {}, {}, QWidget::DrawChildren);
-    QCOMPARE(separatorColumns(image, 10), QList<int>{});
+    QCOMPARE(separatorColumns(brixeltest::renderOverWhite(control), 10), QList<int>{});
 }
 
 void TestSegmentedControls::separatorTable()

@@ -5,7 +5,6 @@
 
 #include "BrixelTest.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTextCursor>

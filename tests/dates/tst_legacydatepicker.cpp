@@ -6,7 +6,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTest>
 #include <QVBoxLayout>

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNAttributedStringDrawing.h>
-#include <Brixel/ZARNShadow.h>
 
 #include <BrixelTest.h>
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/NSBezierPath_Category.h>
 
-#include <QPainter>
 #include <QTest>
 
 namespace {

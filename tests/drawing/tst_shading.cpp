@@ -1,28 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNShading.h>
 
-#include <BrixelTest.h>
-
 #include <QImage>
 #include <QPainter>
 #include <QTest>
-
-Q_DECLARE_METATYPE(ZARNShading)
-
-namespace {
-
-ZARNShading shading(QPointF start, QPointF end, ZARNShading::Components from = {0, 0, 1, 1},
-                    ZARNShading::Components to = {1, 0, 0, 1})
-{
-    ZARNShading shading;
-    shading.setStartColorComponents(from);
-    shading.setEndColorComponents(to);
-    shading.setStartPoint(start);
-    shading.setEndPoint(end);
-    return shading;
-}
-
-} // namespace
 
 class TestShading : public QObject
 {

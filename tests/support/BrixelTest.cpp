@@ -28,6 +28,15 @@ QImage renderWidget(QWidget &widget)
     return image;
 }
 
+QImage renderOverWhite(QWidget &widget)
+{
+    widget.ensurePolished();
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    widget.render(&image, {}, {}, QWidget::DrawChildren);
+    return image;
+}
+
 bool colorsClose(const QColor &actual, const QColor &expected, int tolerance)
 {
     return qAbs(actual.red() - expected.red()) <= tolerance

@@ -23,6 +23,10 @@ void useTestFont();
 /// the widget's size, the way it would appear on screen.
 QImage renderWidget(QWidget &widget);
 
+/// Renders \a widget and its children, without a window background, over white: the widget
+/// as it shows in a white window.
+QImage renderOverWhite(QWidget &widget);
+
 /// True when each channel of \a actual is within \a tolerance of \a expected (0..255 scale).
 bool colorsClose(const QColor &actual, const QColor &expected, int tolerance = 2);
 

@@ -5,7 +5,6 @@
 
 #include "BrixelTest.h"
 
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
