@@ -25,7 +25,7 @@ void show(QTableView &view, QAbstractItemModel &model)
     view.resize(1000, 800);
     view.show();
     processEventsUntilPainted(counter);
-    processEventsFor(400); // a live resize settles
+    processEventsFor(ZARNTableView::LiveResizeSettleInterval + 250); // a live resize settles
 }
 
 void measure(const char *size, int rows, int columns, int firstPaintRuns)
