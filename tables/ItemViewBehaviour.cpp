@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHeaderView>
 #include <QContextMenuEvent>
 #include <QDrag>
 #include <QItemSelectionModel>
@@ -86,6 +87,36 @@ ItemViewBehaviour::ItemViewBehaviour(QAbstractItemView *view)
                 Q_EMIT applicationBecameActive();
         });
     }
+    m_viewport = view->viewport();
+    m_viewport->installEventFilter(this);
+}
+
+QModelIndex ItemViewBehaviour::hoveredIndex() const
+{
+    return m_hovered;
+}
+
+// The views paint cells themselves, so they follow the pointer as QAbstractItemView does for
+// its own painting: from the viewport's hover events.
+bool ItemViewBehaviour::eventFilter(QObject *watched, QEvent *event)
+{
+    // The viewport outlives the view's own destructor by a little; only its object is
+    // compared until an event needs the view.
+    if (watched != m_viewport)
+        return false;
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        m_hovered = m_view->indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
+        break;
+    case QEvent::HoverLeave:
+    case QEvent::Leave:
+        m_hovered = QPersistentModelIndex();
+        break;
+    default:
+        break;
+    }
+    return false;
 }
 
 ItemViewBehaviour::~ItemViewBehaviour() = default;
@@ -218,6 +249,16 @@ bool ItemViewBehaviour::inLiveResize() const
 void ItemViewBehaviour::noteResize()
 {
     m_liveResizeTimer.start();
+}
+
+void ItemViewBehaviour::followColumnWidths(QHeaderView *header)
+{
+    connect(header, &QHeaderView::sectionResized, this, [this] { m_columnWidthsChanged = true; });
+}
+
+bool ItemViewBehaviour::takeColumnWidthsChanged()
+{
+    return std::exchange(m_columnWidthsChanged, false);
 }
 
 } // namespace BrixelPrivate

@@ -15,6 +15,7 @@
 class QAbstractItemView;
 class QContextMenuEvent;
 class QDrag;
+class QHeaderView;
 class QMenu;
 class QMouseEvent;
 
@@ -65,7 +66,11 @@ BRIXEL_AUTOTEST_EXPORT bool controlClickSelectsFirst(const QMouseEvent *event);
  *
  * \code
  * d->behaviour = new BrixelPrivate::ItemViewBehaviour(this);
- * connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, [this] { doItemsLayout(); });
+ * d->behaviour->followColumnWidths(header());
+ * connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, [this] {
+ *     if (d->behaviour->takeColumnWidthsChanged())
+ *         doItemsLayout();
+ * });
  * ...
  * void MyView::startDrag(Qt::DropActions actions)
  * {
@@ -146,8 +151,24 @@ public:
     /// To be called from the view's resizeEvent(): (re)starts the live resize.
     void noteResize();
 
+    /// The cell under the pointer, followed from the viewport's hover events as Qt's views
+    /// follow it; invalid when the pointer is elsewhere.
+    QModelIndex hoveredIndex() const;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+    /// Notes every change of a column's width in \a header, the view's column header.
+    void followColumnWidths(QHeaderView *header);
+
+    /**
+     * Whether a column's width changed since the last call: only then can rows whose text
+     * wraps change their heights, so only then does the end of a live resize lay the rows out
+     * again.
+     */
+    bool takeColumnWidthsChanged();
+
 Q_SIGNALS:
-    /// The live resize ended: the view lays its rows out again.
+    /// The live resize ended: the view lays its rows out again if their heights can change.
     void liveResizeEnded();
 
     /// The application became active: artwork drawn from the system colours is stale.
@@ -160,8 +181,11 @@ private:
     QPointer<QMenu> m_menu;
     QMetaObject::Connection m_menuHidden;
     QPersistentModelIndex m_contextMenuItem;
+    QPersistentModelIndex m_hovered;
+    QObject *m_viewport = nullptr; // watched for hover events; only compared, as it may be mid-destruction
     QTimer m_liveResizeTimer;
     bool m_inDragPrep = false;
+    bool m_columnWidthsChanged = false;
 };
 
 } // namespace BrixelPrivate

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "RowPainter_p.h"
 
+#include "TableColumnList_p.h"
 #include "ZARNNSTableViewSelectionColorAdditions.h"
 #include "ZARNTableColumn.h"
 #include "ZARNTextFieldCell.h"
 
-#include <QAbstractItemView>
+#include <QHeaderView>
 #include <QPainter>
+#include <QTableView>
 
 #include <cmath>
 
@@ -41,11 +43,41 @@ QPixmap viewportPicture(const QAbstractItemView &view, const QRect &area, const 
     return picture;
 }
 
+namespace {
+
+/// Where a cell sits among the shown columns, as QTreeView tells its delegates.
+QStyleOptionViewItem::ViewItemPosition itemPosition(bool first, bool last)
+{
+    if (first && last)
+        return QStyleOptionViewItem::OnlyOne;
+    if (first)
+        return QStyleOptionViewItem::Beginning;
+    return last ? QStyleOptionViewItem::End : QStyleOptionViewItem::Middle;
+}
+
+/// The visual sections of \a header that reach into [\a left, \a right]: first and last,
+/// or an empty range (first > last) when none does.
+std::pair<int, int> visualSectionsBetween(const QHeaderView &header, int left, int right)
+{
+    const int count = header.count();
+    // Right to left, positions run the other way; every section is drawn then.
+    if (header.isRightToLeft())
+        return {0, count - 1};
+    if (count == 0 || right < 0 || left >= header.length() - header.offset())
+        return {0, -1};
+    const int first = header.visualIndexAt(std::max(left, 0));
+    const int last = header.visualIndexAt(right);
+    return {first < 0 ? 0 : first, last < 0 ? count - 1 : last};
+}
+
+} // namespace
+
 RowPainter::RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleOptionViewItem option,
-                       const QList<ZARNTableColumn *> &columns, Options options, CellNotice notice,
+                       const TableColumnList &columns, const QRect &area, Options options, CellNotice notice,
                        GradientSource gradient)
     : m_painter(painter)
     , m_view(view)
+    , m_table(qobject_cast<const QTableView *>(&view))
     , m_option(std::move(option))
     , m_options(options)
     , m_notice(std::move(notice))
@@ -57,9 +89,30 @@ RowPainter::RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleO
         m_option.palette.setBrush(group, QPalette::Highlight, Qt::transparent);
     // Keyboard focus shows in the selection colours, not as a frame around one cell.
     m_option.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
-    m_columns.reserve(columns.size());
-    for (ZARNTableColumn *column : columns)
-        m_columns.push_back({column, column->modelColumn()});
+
+    const QHeaderView *header = columns.header();
+    if (!header)
+        return;
+    const int firstShown = columns.firstShownModelColumn();
+    const int lastShown = columns.lastShownModelColumn();
+    const auto [firstDrawn, lastDrawn] = visualSectionsBetween(*header, area.left(), area.right());
+    const auto addColumn = [&](ZARNTableColumn *column, int logical) {
+        const int visual = header->visualIndex(logical);
+        m_columns.push_back({column, logical, visual >= firstDrawn && visual <= lastDrawn,
+                             itemPosition(logical == firstShown, logical == lastShown)});
+    };
+    // Cells outside the area change no pixel; only the notice needs every column.
+    if (m_notice) {
+        const QList<ZARNTableColumn *> shown = columns.tableColumns();
+        for (ZARNTableColumn *column : shown)
+            addColumn(column, column->modelColumn());
+        return;
+    }
+    for (int visual = firstDrawn; visual <= lastDrawn; ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (!header->isSectionHidden(logical))
+            addColumn(nullptr, logical);
+    }
 }
 
 void RowPainter::drawSelection(const QRectF &rowRect, const QImage &customImage)
@@ -92,30 +145,117 @@ void RowPainter::drawSelection(const QRectF &rowRect, const QImage &customImage)
     m_painter.drawImage(rowRect.topLeft() - fraction, m_stamp);
 }
 
-void RowPainter::drawCells(const QModelIndex &rowIndex, bool selected, int widenedColumn)
+void RowPainter::drawAlternateBackground(const QRectF &rowRect)
 {
-    const int count = int(m_columns.size());
-    const QStyle::State baseState = m_option.state;
-    if (selected && !m_options.inDragPrep)
-        m_option.state |= QStyle::State_Selected;
-    for (int i = 0; i < count; ++i) {
-        const Column &column = m_columns[size_t(i)];
-        const QModelIndex index = rowIndex.siblingAtColumn(column.modelColumn);
-        QAbstractItemDelegate *cell = m_view.itemDelegateForIndex(index);
-        if (!cell)
-            continue;
-        QRect frame = m_view.visualRect(index);
-        if (qobject_cast<const ZARNTextFieldCell *>(cell) && (i != 0 || m_options.insetFirstColumn))
-            frame = insetTextCellFrame(frame, m_options.highlightStyle, i, count);
-        if (i == widenedColumn)
-            frame.setLeft(frame.left() - hiddenMarkerWidth);
-        if (m_notice)
-            m_notice(cell, column.column, index);
-        m_option.rect = frame;
-        m_option.index = index;
-        cell->paint(&m_painter, m_option, index);
+    m_painter.fillRect(rowRect, m_option.palette.brush(QPalette::AlternateBase));
+}
+
+void RowPainter::drawCells(const Row &row)
+{
+    if (row.firstColumnSpanned) {
+        // QTreeView draws a spanned row's first model column alone, across the row.
+        for (const Column &column : m_columns)
+            notify(column, row.index.siblingAtColumn(column.modelColumn));
+        drawCell({nullptr, 0, true, QStyleOptionViewItem::OnlyOne}, row.index.siblingAtColumn(0), row);
+        return;
     }
-    m_option.state = baseState;
+    for (const Column &column : m_columns) {
+        const QModelIndex index = row.index.siblingAtColumn(column.modelColumn);
+        notify(column, index);
+        if (!column.drawn)
+            continue;
+        if (const std::optional<QModelIndex> anchor = spanAnchorToDraw(index)) {
+            if (anchor->isValid()) {
+                Row spanRow = row;
+                spanRow.selected = m_view.selectionModel() && m_view.selectionModel()->isRowSelected(anchor->row(), anchor->parent());
+                drawCell(column, *anchor, spanRow);
+            }
+            continue;
+        }
+        drawCell(column, index, row);
+    }
+}
+
+void RowPainter::drawCell(const Column &column, const QModelIndex &index, const Row &row)
+{
+    QAbstractItemDelegate *cell = m_view.itemDelegateForIndex(index);
+    if (!cell)
+        return;
+    QRect frame = m_view.visualRect(index);
+    const bool first = column.position == QStyleOptionViewItem::Beginning || column.position == QStyleOptionViewItem::OnlyOne;
+    const bool last = column.position == QStyleOptionViewItem::End || column.position == QStyleOptionViewItem::OnlyOne;
+    if (qobject_cast<const ZARNTextFieldCell *>(cell) && (!first || m_options.insetFirstColumn)) {
+        // The inset rule counts columns: the first loses its left end, the last (of more than
+        // one) its right end.
+        frame = insetTextCellFrame(frame, m_options.highlightStyle, first ? 0 : 1, last && !first ? 2 : 3);
+    }
+    if (column.modelColumn == row.widenedModelColumn)
+        frame.setLeft(frame.left() - hiddenMarkerWidth);
+    // One option serves the whole pass; only what differs per cell is set and put back.
+    const QStyle::State passState = m_option.state;
+    const QStyleOptionViewItem::ViewItemFeatures passFeatures = m_option.features;
+    const QPalette::ColorGroup passGroup = m_option.palette.currentColorGroup();
+    m_option.rect = frame;
+    m_option.index = index;
+    m_option.state |= row.state;
+    if (row.selected && !m_options.inDragPrep)
+        m_option.state |= QStyle::State_Selected;
+    if (isHovered(index))
+        m_option.state |= QStyle::State_MouseOver;
+    applyEnabledState(index);
+    m_option.features.setFlag(QStyleOptionViewItem::Alternate, row.alternate);
+    if (m_options.setsItemPosition)
+        m_option.viewItemPosition = column.position;
+    cell->paint(&m_painter, m_option, index);
+    m_option.state = passState;
+    m_option.features = passFeatures;
+    m_option.palette.setCurrentColorGroup(passGroup);
+}
+
+bool RowPainter::isHovered(const QModelIndex &index) const
+{
+    const QModelIndex &hovered = m_options.hoveredIndex;
+    if (!hovered.isValid())
+        return false;
+    return index == hovered || (m_options.hoverMarksRow && index.row() == hovered.row() && index.parent() == hovered.parent());
+}
+
+// In an enabled view a disabled item is drawn disabled, in the Disabled colour group, as
+// Qt's views draw it.
+void RowPainter::applyEnabledState(const QModelIndex &index)
+{
+    if (!m_option.state.testFlag(QStyle::State_Enabled))
+        return;
+    QPalette::ColorGroup group = QPalette::Active;
+    if (!index.flags().testFlag(Qt::ItemIsEnabled)) {
+        m_option.state &= ~QStyle::State_Enabled;
+        group = QPalette::Disabled;
+    } else if (m_options.colorGroupFollowsActivity && !m_option.state.testFlag(QStyle::State_Active)) {
+        group = QPalette::Inactive;
+    }
+    m_option.palette.setCurrentColorGroup(group);
+}
+
+void RowPainter::notify(const Column &column, const QModelIndex &index) const
+{
+    if (!m_notice || !column.column)
+        return;
+    if (QAbstractItemDelegate *cell = m_view.itemDelegateForIndex(index))
+        m_notice(cell, column.column, index);
+}
+
+// A cell covered by a span stands for the span's anchor cell, drawn into the span's
+// rectangle the first time one of its cells comes up: nullopt for a cell outside spans, an
+// invalid index for a span already drawn.
+std::optional<QModelIndex> RowPainter::spanAnchorToDraw(const QModelIndex &index)
+{
+    if (!m_table || (m_table->rowSpan(index.row(), index.column()) <= 1 && m_table->columnSpan(index.row(), index.column()) <= 1))
+        return std::nullopt;
+    const QModelIndex anchor = m_table->indexAt(m_table->visualRect(index).topLeft());
+    if (!anchor.isValid() || m_drawnSpans.contains(anchor))
+        return QModelIndex();
+    m_drawnSpans.append(anchor);
+    return anchor;
 }
 
 void RowPainter::drawDropOnRow(const QRectF &rowRect, bool rowSelected, bool hugsRow)

@@ -16,9 +16,12 @@
 class QAbstractItemDelegate;
 class QAbstractItemView;
 class QPainter;
+class QTableView;
 class ZARNTableColumn;
 
 namespace BrixelPrivate {
+
+class TableColumnList;
 
 /// Where a drag hovering over a view would drop, as the view marks it.
 struct DropTarget
@@ -65,12 +68,12 @@ BRIXEL_AUTOTEST_EXPORT QPixmap viewportPicture(const QAbstractItemView &view, co
  * RoundedRectangle styles keep away from the rounded ends (insetTextCellFrame()).
  *
  * \code
- * BrixelPrivate::RowPainter rows(painter, *view, option, view->tableColumns(),
+ * BrixelPrivate::RowPainter rows(painter, *view, option, columns, event->rect(),
  *                         {view->highlightStyle(), view->inDragPrep(), true},
  *                         [&](auto *cell, auto *column, const QModelIndex &index) { ... },
  *                         [&] { return view->highlightGradientImage(); });
  * rows.drawSelection(rowRect, QImage());
- * rows.drawCells(model->index(row, 0), true);
+ * rows.drawCells({model->index(row, 0), true});
  * \endcode
  */
 class BRIXEL_AUTOTEST_EXPORT RowPainter
@@ -81,6 +84,27 @@ public:
         ZARNTableView::HighlightStyle highlightStyle = ZARNTableView::HighlightStyle::Rectangle;
         bool inDragPrep = false;    ///< draw selected rows' contents as unselected
         bool insetFirstColumn = true; ///< apply the text-cell inset to the first column
+        /// Tell each cell where it sits in the row (QStyleOptionViewItem::viewItemPosition),
+        /// as QTreeView does; QTableView leaves it Invalid.
+        bool setsItemPosition = false;
+        /// The cell under the pointer: it gets QStyle::State_MouseOver.
+        QModelIndex hoveredIndex = {};
+        /// The whole row of hoveredIndex gets State_MouseOver, as in QTreeView selecting rows.
+        bool hoverMarksRow = false;
+        /// Enabled cells draw in the Inactive colour group outside the active window, as in
+        /// QTreeView; QTableView keeps them Active.
+        bool colorGroupFollowsActivity = false;
+    };
+
+    /// One row to draw.
+    struct Row
+    {
+        QModelIndex index;       ///< an index of any column of the row
+        bool selected = false;   ///< draw the contents highlighted
+        bool alternate = false;  ///< an alternate row: QStyleOptionViewItem::Alternate is set
+        QStyle::State state = QStyle::State_None; ///< added to each cell's state (tree branches)
+        int widenedModelColumn = -1; ///< its cell reaches hiddenMarkerWidth further left
+        bool firstColumnSpanned = false; ///< only model column 0 is drawn, across the row
     };
 
     /// Told about each cell just before it draws, with the cell, its column and its index.
@@ -90,10 +114,12 @@ public:
 
     /**
      * A pass over \a view drawing into \a painter. \a option is the view's item option
-     * (QAbstractItemView::initViewItemOption()); \a columns the shown columns, left to right.
+     * (QAbstractItemView::initViewItemOption()); \a columns the view's columns. Only the
+     * cells of columns that reach into \a area (viewport coordinates) are drawn; a non-null
+     * \a notice is still told about the cells of every shown column.
      */
     RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleOptionViewItem option,
-               const QList<ZARNTableColumn *> &columns, Options options, CellNotice notice,
+               const TableColumnList &columns, const QRect &area, Options options, CellNotice notice,
                GradientSource gradient);
 
     /// The colours of the pass: selectionColor(), selectionOutlineColor() and
@@ -108,12 +134,15 @@ public:
     /// drawn for the first of them.
     void drawSelection(const QRectF &rowRect, const QImage &customImage);
 
+    /// Fills \a rowRect with the palette's AlternateBase, the background of alternate rows.
+    void drawAlternateBackground(const QRectF &rowRect);
+
     /**
-     * Draws every shown column's cell of the row of \a rowIndex (an index of any column of
-     * the row), highlighted when \a selected. The cell of the shown column \a widenedColumn
-     * (-1 for none) reaches 16 further left, over the space of a hidden disclosure marker.
+     * Draws the cells of \a row in its shown columns, highlighted when it is selected. In a
+     * QTableView a cell covered by a span draws the span's anchor cell, once per pass, into
+     * the span's rectangle.
      */
-    void drawCells(const QModelIndex &rowIndex, bool selected, int widenedColumn = -1);
+    void drawCells(const Row &row);
 
     /// Marks a drop onto the row drawn in \a rowRect; \a hugsRow draws the frame on the row's
     /// own rectangle rather than inset (see dropHighlightRect()).
@@ -136,12 +165,22 @@ public:
 private:
     struct Column
     {
-        ZARNTableColumn *column;
+        ZARNTableColumn *column; ///< null when no notice is sent
         int modelColumn;
+        bool drawn;              ///< reaches into the pass's area
+        QStyleOptionViewItem::ViewItemPosition position;
     };
+
+    void drawCell(const Column &column, const QModelIndex &index, const Row &row);
+    void notify(const Column &column, const QModelIndex &index) const;
+    bool isHovered(const QModelIndex &index) const;
+    void applyEnabledState(const QModelIndex &index);
+    std::optional<QModelIndex> spanAnchorToDraw(const QModelIndex &index);
 
     QPainter &m_painter;
     const QAbstractItemView &m_view;
+    const QTableView *m_table; // the view when it is a table, whose cells may be spanned
+    QList<QModelIndex> m_drawnSpans;
     QStyleOptionViewItem m_option;
     std::vector<Column> m_columns;
     Options m_options;

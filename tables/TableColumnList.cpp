@@ -78,23 +78,55 @@ ZARNTableColumn *TableColumnList::columnForModelColumn(int modelColumn) const
     followModel();
     if (modelColumn < 0 || modelColumn >= int(m_columns.size()))
         return nullptr;
-    return m_columns[size_t(modelColumn)].get();
+    // Column objects are made when first asked for, so a model of very many columns costs
+    // nothing until its columns are used.
+    std::unique_ptr<ZARNTableColumn> &column = m_columns[size_t(modelColumn)];
+    if (!column)
+        column = makeColumn(modelColumn);
+    return column.get();
 }
 
-void TableColumnList::hideColumn(int index)
+int TableColumnList::firstShownModelColumn() const
+{
+    followModel();
+    if (!sectionCount())
+        return -1;
+    for (int visual = 0; visual < m_header->count(); ++visual) {
+        const int logical = m_header->logicalIndex(visual);
+        if (!m_header->isSectionHidden(logical))
+            return logical;
+    }
+    return -1;
+}
+
+int TableColumnList::lastShownModelColumn() const
+{
+    followModel();
+    if (!sectionCount())
+        return -1;
+    for (int visual = m_header->count() - 1; visual >= 0; --visual) {
+        const int logical = m_header->logicalIndex(visual);
+        if (!m_header->isSectionHidden(logical))
+            return logical;
+    }
+    return -1;
+}
+
+bool TableColumnList::hideColumn(int index)
 {
     ZARNTableColumn *column = columnAt(index);
     if (!column)
-        return;
+        return false;
     column->clearIndicatorImage();
     column->m_hiddenWidth = column->width();
     m_hidden.append(column);
     m_header->hideSection(column->modelColumn());
+    return true;
 }
 
-void TableColumnList::hideColumnWithIdentifier(const QString &identifier)
+bool TableColumnList::hideColumnWithIdentifier(const QString &identifier)
 {
-    hideColumn(columnWithIdentifier(identifier));
+    return hideColumn(columnWithIdentifier(identifier));
 }
 
 ZARNTableColumn *TableColumnList::hiddenTableColumnWithIdentifier(const QString &identifier) const
@@ -107,15 +139,16 @@ ZARNTableColumn *TableColumnList::hiddenTableColumnWithIdentifier(const QString 
     return found == m_hidden.cend() ? nullptr : *found;
 }
 
-void TableColumnList::showColumnWithIdentifier(const QString &identifier)
+bool TableColumnList::showColumnWithIdentifier(const QString &identifier)
 {
     ZARNTableColumn *column = hiddenTableColumnWithIdentifier(identifier);
     if (!column)
-        return;
+        return false;
     const int logical = column->modelColumn();
     m_header->showSection(logical);
     m_header->moveSection(m_header->visualIndex(logical), m_header->count() - 1);
     m_hidden.removeOne(column);
+    return true;
 }
 
 QList<ZARNTableColumn *> TableColumnList::hiddenTableColumns() const
@@ -180,18 +213,14 @@ void TableColumnList::resizeColumns(int count)
 {
     const int kept = std::min(count, int(m_columns.size()));
     m_hidden.removeIf([kept](const ZARNTableColumn *column) { return column->modelColumn() >= kept; });
-    m_columns.resize(size_t(kept));
-    for (int modelColumn = kept; modelColumn < count; ++modelColumn)
-        m_columns.push_back(makeColumn(modelColumn));
+    m_columns.resize(size_t(count));
 }
 
 void TableColumnList::insertColumns(const QModelIndex &parent, int first, int last)
 {
     if (!isHeaderRoot(parent) || first < 0 || first > int(m_columns.size()) || last < first)
         return;
-    std::vector<std::unique_ptr<ZARNTableColumn>> inserted;
-    for (int modelColumn = first; modelColumn <= last; ++modelColumn)
-        inserted.push_back(makeColumn(modelColumn));
+    std::vector<std::unique_ptr<ZARNTableColumn>> inserted(size_t(last - first + 1));
     m_columns.insert(m_columns.begin() + first, std::make_move_iterator(inserted.begin()),
                      std::make_move_iterator(inserted.end()));
     renumberColumns();
@@ -238,7 +267,8 @@ void TableColumnList::keepHiddenListConsistent()
 void TableColumnList::renumberColumns()
 {
     for (size_t modelColumn = 0; modelColumn < m_columns.size(); ++modelColumn)
-        m_columns[modelColumn]->m_modelColumn = int(modelColumn);
+        if (m_columns[modelColumn])
+            m_columns[modelColumn]->m_modelColumn = int(modelColumn);
 }
 
 std::unique_ptr<ZARNTableColumn> TableColumnList::makeColumn(int modelColumn) const

@@ -70,15 +70,22 @@ public:
     /// The column of model column \a modelColumn, shown or hidden; null out of range.
     ZARNTableColumn *columnForModelColumn(int modelColumn) const;
 
+    /// The model column of the leftmost shown column, or -1 when no column is shown. Cheaper
+    /// than tableColumns() when only the ends are needed.
+    int firstShownModelColumn() const;
+    /// The model column of the rightmost shown column, or -1 when no column is shown.
+    int lastShownModelColumn() const;
+
     /**
      * Hides the shown column at \a index: drops the sort indicator when it sits on that
      * column, appends the column to hiddenTableColumns() and hides its section. An index that
-     * is negative or not below numberOfColumns() does nothing.
+     * is negative or not below numberOfColumns() does nothing. Answers whether a column was
+     * hidden.
      */
-    void hideColumn(int index);
+    bool hideColumn(int index);
 
     /// hideColumn() of columnWithIdentifier(); an unknown identifier does nothing.
-    void hideColumnWithIdentifier(const QString &identifier);
+    bool hideColumnWithIdentifier(const QString &identifier);
 
     /**
      * The first column in hiddenTableColumns() (in hiding order) whose identifier equals
@@ -89,9 +96,10 @@ public:
     /**
      * Shows the column hiddenTableColumnWithIdentifier() finds as the last (rightmost) column
      * and takes it off the hidden list. Its former place and its sort indicator are not
-     * restored. An identifier that no hidden column has does nothing.
+     * restored. An identifier that no hidden column has does nothing. Answers whether a
+     * column was shown.
      */
-    void showColumnWithIdentifier(const QString &identifier);
+    bool showColumnWithIdentifier(const QString &identifier);
 
     /// The columns hidden by hideColumn(), in hiding order.
     QList<ZARNTableColumn *> hiddenTableColumns() const;
@@ -114,7 +122,8 @@ private:
     QPointer<QAbstractItemView> m_view;
     QPointer<QHeaderView> m_header;
     QPointer<QAbstractItemModel> m_model;
-    std::vector<std::unique_ptr<ZARNTableColumn>> m_columns; // indexed by model column
+    // Indexed by model column; an entry stays null until its column is first asked for.
+    mutable std::vector<std::unique_ptr<ZARNTableColumn>> m_columns;
     QList<ZARNTableColumn *> m_hidden;
     QList<QMetaObject::Connection> m_modelConnections;
 };

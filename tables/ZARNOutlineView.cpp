@@ -96,13 +96,17 @@ public:
     void applyEnabledState(bool enabled);
     QList<ZARNTextFieldCell *> textCells() const;
     int outlineColumnIndex() const;
+    int outlineModelColumn() const;
+    int visualRowOf(const QModelIndex &item);
+    int topVisualRow() const;
 
     QRect rowRect(const QModelIndex &item) const;
     bool isRowSelected(const QModelIndex &item) const;
     QImage customHighlightImage(const QModelIndex &item) const;
-    BrixelPrivate::RowPainter rowPainter(QPainter &painter) const;
-    void drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item);
-    void drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item);
+    BrixelPrivate::RowPainter rowPainter(QPainter &painter, const QRect &area) const;
+    void drawRow(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &item);
+    void drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item,
+                 QStyle::State branchState = QStyle::State_None);
     void drawSelection(BrixelPrivate::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const;
     void drawIndicator(QPainter &painter, const QModelIndex &item);
     void drawContextMenuHighlight(BrixelPrivate::RowPainter &rows);
@@ -131,7 +135,12 @@ public:
 
     // The rows of one QTreeView::paintEvent() share one painter and its row painter.
     bool painting = false;
+    QRect paintArea;
     std::optional<BrixelPrivate::RowPainter> pass;
+    // The last row whose visual row was looked up in this pass, and that row, so that rows
+    // drawn top to bottom find theirs in one step.
+    QPersistentModelIndex visualRowCursor;
+    int visualRowCursorRow = 0;
     // The library's disclosure artwork, looked up once per painting pass.
     std::optional<QImage> expandedArt;
     std::optional<QImage> collapsedArt;
@@ -223,6 +232,47 @@ int ZARNOutlineViewPrivate::outlineColumnIndex() const
     return logical < 0 ? 0 : columns->columnIndex(columns->columnForModelColumn(logical));
 }
 
+int ZARNOutlineViewPrivate::outlineModelColumn() const
+{
+    const int logical = q->treePosition();
+    return logical < 0 ? columns->firstShownModelColumn() : logical;
+}
+
+// The visual row of the viewport's top row: its place among all shown rows, as QTreeView
+// counts rows for alternating colours.
+int ZARNOutlineViewPrivate::topVisualRow() const
+{
+    if (q->verticalScrollMode() == QAbstractItemView::ScrollPerItem)
+        return q->verticalScrollBar()->value();
+    const QModelIndex top = rowItemAt({0, 0});
+    int visual = 0;
+    for (QModelIndex item = q->model()->index(0, 0, q->rootIndex()); item.isValid() && item != top; item = q->indexBelow(item))
+        ++visual;
+    return visual;
+}
+
+int ZARNOutlineViewPrivate::visualRowOf(const QModelIndex &item)
+{
+    // Rows are drawn top to bottom: the walk from the last row looked up is normally one step.
+    // A row above it starts the walk again from the top of the viewport.
+    constexpr int MaximumWalk = 4096;
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        if (attempt == 1 || !visualRowCursor.isValid()) {
+            visualRowCursor = rowItemAt({0, 0});
+            visualRowCursorRow = topVisualRow();
+        }
+        QModelIndex row = visualRowCursor;
+        for (int step = 0; row.isValid() && step < MaximumWalk; ++step, row = q->indexBelow(row)) {
+            if (row == item) {
+                visualRowCursor = row;
+                visualRowCursorRow += step;
+                return visualRowCursorRow;
+            }
+        }
+    }
+    return 0;
+}
+
 QRect ZARNOutlineViewPrivate::rowRect(const QModelIndex &item) const
 {
     const ZARNTableColumn *first = columns->columnAt(0);
@@ -240,44 +290,58 @@ QImage ZARNOutlineViewPrivate::customHighlightImage(const QModelIndex &item) con
     return delegate ? delegate->outlineViewCustomHighlightImageForItem(q, item).value_or(QImage()) : QImage();
 }
 
-BrixelPrivate::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter) const
+BrixelPrivate::RowPainter ZARNOutlineViewPrivate::rowPainter(QPainter &painter, const QRect &area) const
 {
     QStyleOptionViewItem option;
     q->initViewItemOption(&option);
     // The text-cell inset keeps clear of the disclosure markers' column.
-    const BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), outlineColumnIndex() != 0};
-    return BrixelPrivate::RowPainter(
-        painter, *q, std::move(option), columns->tableColumns(), options,
-        [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
-            if (delegate)
-                delegate->outlineViewWillDisplayCell(q, cell, column, index.siblingAtColumn(0));
-        },
-        [this] { return q->highlightGradientImage(); });
+    BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(),
+                                               outlineModelColumn() != columns->firstShownModelColumn()};
+    options.setsItemPosition = true;
+    options.hoveredIndex = behaviour->hoveredIndex();
+    options.hoverMarksRow = q->selectionBehavior() == QAbstractItemView::SelectRows;
+    options.colorGroupFollowsActivity = true;
+    BrixelPrivate::RowPainter::CellNotice notice;
+    if (delegate) {
+        notice = [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
+            delegate->outlineViewWillDisplayCell(q, cell, column, index.siblingAtColumn(0));
+        };
+    }
+    return BrixelPrivate::RowPainter(painter, *q, std::move(option), *columns, area, options, std::move(notice),
+                                     [this] { return q->highlightGradientImage(); });
 }
 
-void ZARNOutlineViewPrivate::drawRow(QPainter &painter, const QRect &rowRect, const QModelIndex &item)
+void ZARNOutlineViewPrivate::drawRow(QPainter &painter, const QStyleOptionViewItem &option, const QModelIndex &item)
 {
+    const QRect rowRect(0, option.rect.y(), q->viewport()->width(), option.rect.height());
+    // QTreeView hands each row the states of its branch; the cells get them as under Qt.
+    const QStyle::State branchState = option.state & (QStyle::State_Children | QStyle::State_Open | QStyle::State_Sibling);
     if (!painting) {
-        BrixelPrivate::RowPainter rows = rowPainter(painter);
-        drawRow(rows, rowRect, item);
+        BrixelPrivate::RowPainter rows = rowPainter(painter, rowRect);
+        drawRow(rows, rowRect, item, branchState);
         return;
     }
     if (!pass)
-        pass.emplace(rowPainter(painter));
-    drawRow(*pass, rowRect, item);
+        pass.emplace(rowPainter(painter, paintArea));
+    drawRow(*pass, rowRect, item, branchState);
 }
 
-void ZARNOutlineViewPrivate::drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item)
+void ZARNOutlineViewPrivate::drawRow(BrixelPrivate::RowPainter &rows, const QRect &rowRect, const QModelIndex &item,
+                                     QStyle::State branchState)
 {
     if (delegate)
         delegate->outlineViewWillDrawItem(q, item, rowRect);
+    const bool alternate = q->alternatingRowColors() && (visualRowOf(item) & 1);
+    if (alternate)
+        rows.drawAlternateBackground(rowRect);
     const bool selected = isRowSelected(item);
     if (selected)
         drawSelection(rows, rowRect, item);
     const bool showsMarker = showsMarkerFor(item);
     if (showsMarker)
         drawIndicator(rows.painter(), item);
-    rows.drawCells(item, selected, showsMarker ? -1 : outlineColumnIndex());
+    rows.drawCells({item, selected, alternate, branchState, showsMarker ? -1 : outlineModelColumn(),
+                    q->isFirstColumnSpanned(item.row(), item.parent())});
 }
 
 void ZARNOutlineViewPrivate::drawSelection(BrixelPrivate::RowPainter &rows, QRectF rowRect, const QModelIndex &item) const
@@ -291,8 +355,8 @@ void ZARNOutlineViewPrivate::drawSelection(BrixelPrivate::RowPainter &rows, QRec
 
 void ZARNOutlineViewPrivate::drawIndicator(QPainter &painter, const QModelIndex &item)
 {
-    const ZARNTableColumn *first = columns->columnAt(0);
-    if (!drawsBranchIndicators || !first || !q->model()->hasChildren(item))
+    const int firstColumn = columns->firstShownModelColumn();
+    if (!drawsBranchIndicators || firstColumn < 0 || !q->model()->hasChildren(item))
         return;
     const bool expanded = q->isExpanded(item);
     std::optional<QImage> image;
@@ -309,7 +373,7 @@ void ZARNOutlineViewPrivate::drawIndicator(QPainter &painter, const QModelIndex 
     if (image->isNull())
         return;
     // Right against the left edge of the first column's cell, centred on it vertically.
-    const QRect frame = q->visualRect(item.siblingAtColumn(first->modelColumn()));
+    const QRect frame = q->visualRect(item.siblingAtColumn(firstColumn));
     const QSizeF size = image->deviceIndependentSize();
     const qreal x = std::trunc(frame.x() - size.width());
     const qreal y = frame.y() + std::trunc((frame.height() - size.height()) * 0.5);
@@ -366,9 +430,10 @@ QPixmap ZARNOutlineViewPrivate::dragPicture(const QModelIndexList &indexes, cons
             items.append(item);
     }
     return BrixelPrivate::viewportPicture(*q, area, [&](QPainter &painter) {
-        BrixelPrivate::RowPainter rows = rowPainter(painter);
+        BrixelPrivate::RowPainter rows = rowPainter(painter, area);
         for (const QPersistentModelIndex &item : std::as_const(items))
-            rows.drawCells(item, isRowSelected(item), showsMarkerFor(item) ? -1 : outlineColumnIndex());
+            rows.drawCells({item, isRowSelected(item), false, QStyle::State_None, showsMarkerFor(item) ? -1 : outlineModelColumn(),
+                            q->isFirstColumnSpanned(item.row(), item.parent())});
     });
 }
 
@@ -414,7 +479,12 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
             d->autoExpanded.append(item);
     });
     connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
-    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, &ZARNOutlineView::doItemsLayout);
+    // Rows change height with their columns' widths only when their heights are not uniform.
+    d->behaviour->followColumnWidths(columnHeader);
+    connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, [this] {
+        if (d->behaviour->takeColumnWidthsChanged() && !uniformRowHeights())
+            doItemsLayout();
+    });
 }
 
 ZARNOutlineView::~ZARNOutlineView() = default;
@@ -582,7 +652,9 @@ void ZARNOutlineView::hideColumn(int index)
         return;
     if (index == d->outlineColumnIndex())
         setTreePosition(d->columns->columnAt(index == 0 ? 1 : 0)->modelColumn());
-    d->columns->hideColumn(index);
+    // Rows lose the height a tall hidden column gave them, as QTreeView::hideColumn() does.
+    if (d->columns->hideColumn(index))
+        doItemsLayout();
 }
 
 void ZARNOutlineView::hideColumnWithIdentifier(const QString &identifier)
@@ -597,7 +669,8 @@ ZARNTableColumn *ZARNOutlineView::hiddenTableColumnWithIdentifier(const QString 
 
 void ZARNOutlineView::showColumnWithIdentifier(const QString &identifier)
 {
-    d->columns->showColumnWithIdentifier(identifier);
+    if (d->columns->showColumnWithIdentifier(identifier))
+        doItemsLayout();
 }
 
 QList<ZARNTableColumn *> ZARNOutlineView::hiddenTableColumns() const
@@ -754,8 +827,10 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
         d->delegate->tableViewWillDrawRect(this, event->rect());
     {
         d->painting = true;
+        d->paintArea = event->rect();
         const auto endPass = qScopeGuard([this] {
             d->pass.reset();
+            d->visualRowCursor = QPersistentModelIndex();
             d->expandedArt.reset();
             d->collapsedArt.reset();
             d->painting = false;
@@ -765,7 +840,7 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
     if (!d->behaviour->contextMenuItem().isValid() && d->dropTarget.kind == BrixelPrivate::DropTarget::Kind::None)
         return;
     QPainter painter(viewport());
-    BrixelPrivate::RowPainter rows = d->rowPainter(painter);
+    BrixelPrivate::RowPainter rows = d->rowPainter(painter, event->rect());
     d->drawContextMenuHighlight(rows);
     d->drawDropTarget(rows);
 }
@@ -773,7 +848,6 @@ void ZARNOutlineView::paintEvent(QPaintEvent *event)
 void ZARNOutlineView::resizeEvent(QResizeEvent *event)
 {
     QTreeView::resizeEvent(event);
-    scheduleDelayedItemsLayout();
     d->behaviour->noteResize();
 }
 
@@ -839,8 +913,7 @@ void ZARNOutlineView::dropEvent(QDropEvent *event)
 
 void ZARNOutlineView::drawRow(QPainter *painter, const QStyleOptionViewItem &options, const QModelIndex &index) const
 {
-    const QRect rowRect(0, options.rect.y(), viewport()->width(), options.rect.height());
-    d->drawRow(*painter, rowRect, index.siblingAtColumn(0));
+    d->drawRow(*painter, options, index.siblingAtColumn(0));
 }
 
 void ZARNOutlineView::drawBranches(QPainter *, const QRect &, const QModelIndex &) const

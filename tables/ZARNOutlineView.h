@@ -41,6 +41,11 @@ class ZARNTableColumn;
  * gets the delegate's disclosure image or the "expanded"/"collapsed" artwork (imageNamed())
  * right against its cell; an item whose marker is hidden has its tree cell widened 16 to the
  * left. The open menu's selected row and a drag's drop target are drawn over the rows.
+ * Cells get the QStyleOptionViewItem QTreeView gives its delegates (viewItemPosition, the
+ * Alternate feature, State_Children, State_Open and State_Sibling); only the columns inside
+ * the painted area are drawn. With alternatingRowColors() on, alternate rows are filled with
+ * the palette's AlternateBase across the viewport, under the selection shape. A row spanned
+ * by setFirstColumnSpanned() draws its first model column alone, across the row.
  *
  * Its cells are a ZARNTextFieldCell (the item delegate) and its header a
  * ZARNNSTableHeaderView. Columns are the shown header sections in visual order, with one
@@ -114,8 +119,9 @@ public:
     bool inDragPrep() const;
 
     /// Whether the view is being resized: from a resize until
-    /// ZARNTableView::LiveResizeSettleInterval ms after the last one, when the rows
-    /// are laid out again. False without a QApplication.
+    /// ZARNTableView::LiveResizeSettleInterval ms after the last one, when the rows are laid
+    /// out again if a column's width changed and uniformRowHeights() is off (only then can a
+    /// row's height change). False without a QApplication.
     bool inLiveResize() const;
 
     /// Whether the view takes keyboard focus: isEnabled().
@@ -153,14 +159,16 @@ public:
      * QTreeView::hideColumn()) and keeps it for showColumnWithIdentifier(); its sort
      * indicator goes. Nothing happens for an index out of range or when fewer than two
      * columns are shown. Hiding the column that holds the tree moves the tree to column 1
-     * when \a index is 0, else to column 0.
+     * when \a index is 0, else to column 0. The rows are laid out again, as
+     * QTreeView::hideColumn() does, so they lose the height a tall hidden column gave them.
      */
     void hideColumn(int index);
     /// hideColumn() of columnWithIdentifier(); an unknown identifier does nothing.
     void hideColumnWithIdentifier(const QString &identifier);
     /// The first hidden column (in hiding order) with \a identifier; null for none.
     ZARNTableColumn *hiddenTableColumnWithIdentifier(const QString &identifier) const;
-    /// Shows hiddenTableColumnWithIdentifier() again, as the rightmost column.
+    /// Shows hiddenTableColumnWithIdentifier() again, as the rightmost column, and lays the
+    /// rows out again.
     void showColumnWithIdentifier(const QString &identifier);
     /// The hidden columns in hiding order.
     QList<ZARNTableColumn *> hiddenTableColumns() const;

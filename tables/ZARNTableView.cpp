@@ -119,22 +119,32 @@ public:
         return delegate ? delegate->tableViewCustomHighlightImageForRow(q, row).value_or(QImage()) : QImage();
     }
 
-    BrixelPrivate::RowPainter rowPainter(QPainter &painter) const
+    /// A painter for the rows of \a area (viewport coordinates).
+    BrixelPrivate::RowPainter rowPainter(QPainter &painter, const QRect &area) const
     {
         QStyleOptionViewItem option;
         q->initViewItemOption(&option);
-        return BrixelPrivate::RowPainter(
-            painter, *q, std::move(option), columns->tableColumns(), {highlightStyle, behaviour->inDragPrep(), true},
-            [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
-                if (delegate)
-                    delegate->tableViewWillDisplayCell(q, cell, column, index.row());
-            },
-            [this] { return q->highlightGradientImage(); });
+        BrixelPrivate::RowPainter::CellNotice notice;
+        if (delegate) {
+            notice = [this](QAbstractItemDelegate *cell, ZARNTableColumn *column, const QModelIndex &index) {
+                delegate->tableViewWillDisplayCell(q, cell, column, index.row());
+            };
+        }
+        BrixelPrivate::RowPainter::Options options{highlightStyle, behaviour->inDragPrep(), true};
+        options.hoveredIndex = behaviour->hoveredIndex();
+        return BrixelPrivate::RowPainter(painter, *q, std::move(option), *columns, area, options, std::move(notice),
+                                         [this] { return q->highlightGradientImage(); });
+    }
+
+    /// Whether \a row gets the alternate background, as QTableView alternates by visual row.
+    bool isAlternateRow(int row) const
+    {
+        return q->alternatingRowColors() && (q->verticalHeader()->visualIndex(row) & 1);
     }
 
     void drawRow(BrixelPrivate::RowPainter &rows, int row) const
     {
-        rows.drawCells(rowIndex(row), isRowSelected(row));
+        rows.drawCells({rowIndex(row), isRowSelected(row), isAlternateRow(row)});
     }
 
     /// Grid lines along the bottom of each row in \a rows and the right of each shown column,
@@ -157,9 +167,14 @@ public:
             const int y = q->rowViewportPosition(row) + q->rowHeight(row) - 1;
             painter.drawLine(area.left(), y, area.right(), y);
         }
-        for (ZARNTableColumn *column : columns->tableColumns()) {
-            const int x = q->columnViewportPosition(column->modelColumn()) + q->columnWidth(column->modelColumn()) - 1;
-            if (x >= area.left() && x <= area.right())
+        for (int visual = std::max(header->visualIndexAt(area.left()), 0); visual < header->count(); ++visual) {
+            const int logical = header->logicalIndex(visual);
+            if (header->isSectionHidden(logical))
+                continue;
+            const int x = header->sectionViewportPosition(logical) + header->sectionSize(logical) - 1;
+            if (x > area.right())
+                break;
+            if (x >= area.left())
                 painter.drawLine(x, area.top(), x, area.bottom());
         }
         painter.restore();
@@ -237,7 +252,7 @@ public:
         std::sort(rows.begin(), rows.end());
         rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
         return BrixelPrivate::viewportPicture(*q, area, [&](QPainter &painter) {
-            BrixelPrivate::RowPainter painterForRows = rowPainter(painter);
+            BrixelPrivate::RowPainter painterForRows = rowPainter(painter, area);
             for (const int row : rows)
                 drawRow(painterForRows, row);
         });
@@ -260,7 +275,11 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     : QTableView(parent)
     , d(std::make_unique<ZARNTableViewPrivate>(this))
 {
+    // Clickable and highlighting like the header QTableView makes for itself, so that a click
+    // sorts a sortable table and a press selects the column when items are selected.
     auto *header = new ZARNNSTableHeaderView(this);
+    header->setSectionsClickable(true);
+    header->setHighlightSections(true);
     setHorizontalHeader(header);
     d->columns = std::make_unique<BrixelPrivate::TableColumnList>(this, header);
     ZARNNSTableHeaderViewPrivate::get(header)->columns = d->columns.get();
@@ -268,6 +287,7 @@ ZARNTableView::ZARNTableView(QWidget *parent)
     setDropIndicatorShown(false);
     setItemDelegate(new ZARNTextFieldCell(this));
     d->behaviour = new BrixelPrivate::ItemViewBehaviour(this);
+    d->behaviour->followColumnWidths(header);
     connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, &ZARNTableView::viewDidEndLiveResize);
     connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::applicationBecameActive, this, &ZARNTableView::userDefaultsDidChange);
 }
@@ -539,7 +559,6 @@ void ZARNTableView::contextClick(QMouseEvent *event)
 void ZARNTableView::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    scheduleDelayedItemsLayout();
     d->behaviour->noteResize();
 }
 
@@ -549,8 +568,12 @@ void ZARNTableView::paintEvent(QPaintEvent *event)
     if (d->delegate)
         d->delegate->tableViewWillDrawRect(this, area);
     QPainter painter(viewport());
-    BrixelPrivate::RowPainter rows = d->rowPainter(painter);
+    BrixelPrivate::RowPainter rows = d->rowPainter(painter, area);
     const RowList shown = d->visibleRows(area);
+    for (const int row : shown) {
+        if (d->isAlternateRow(row))
+            rows.drawAlternateBackground(rectOfRow(row));
+    }
     // All shapes first: a shape may reach into its neighbours' rows by its antialiased edge.
     for (const int row : shown) {
         if (d->isRowSelected(row))
@@ -595,7 +618,8 @@ void ZARNTableView::dropEvent(QDropEvent *event)
 
 void ZARNTableView::viewDidEndLiveResize()
 {
-    doItemsLayout();
+    if (d->behaviour->takeColumnWidthsChanged())
+        doItemsLayout();
 }
 
 bool ZARNTableView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)

@@ -51,8 +51,15 @@ class ZARNTableViewDelegate;
  * The table paints its rows itself (see paintEvent()): selected rows get the highlight shape
  * of highlightStyle() in the selection colours (selectionColor() and friends), filled with
  * highlightGradientImage() while the table is focused in the active window, and their text
- * cells draw white, bold, shadowed text. Spanned cells (setSpan()) and alternating row colours
- * are not drawn: every cell draws in its own rectangle over the viewport's background.
+ * cells draw white, bold, shadowed text. Only the cells of the columns inside the area being
+ * painted are drawn; the delegate's tableViewWillDisplayCell() still hears about every shown
+ * column. A span (setSpan()) draws its anchor cell once, into the span's rectangle. With
+ * alternatingRowColors() on, alternate rows are filled with the palette's AlternateBase
+ * across the viewport, under the selection shapes; cells get QStyleOptionViewItem::Alternate
+ * as under QTableView.
+ *
+ * The column header is clickable and highlights the sections of selected columns, as
+ * QTableView's own: with sorting enabled a click sorts by that column.
  *
  * While a drag hovers over the table, the place it would drop is marked: a rounded frame on a
  * row, a line with a circle between rows, or a frame around the whole view. Qt's own drop
@@ -205,7 +212,8 @@ protected:
      */
     virtual QMenu *menuForEvent(QMouseEvent *event);
 
-    /// Runs once a series of resizes has settled: lays the rows out again.
+    /// Runs once a series of resizes has settled: lays the rows out again when a column's
+    /// width changed since the last time, as rows of wrapped text may then change height.
     virtual void viewDidEndLiveResize();
 
     /// Runs \a drag (QDrag::exec) and answers the action the drop took.
