@@ -50,6 +50,23 @@ double nanosecondsPerCall(Work &&work, int roundMilliseconds = 100, int rounds =
     return best;
 }
 
+/**
+ * The shortest of up to \a runs runs of \a run, each of which times its own work and answers
+ * the nanoseconds it took (so that its setup and teardown stay out of the figure). For work
+ * too slow to repeat in batches, such as a view's first paint over a million rows; the runs
+ * stop early once \a budgetMilliseconds have passed, after at least one.
+ */
+template<typename Run>
+double bestOfRuns(Run &&run, int runs, qint64 budgetMilliseconds)
+{
+    QElapsedTimer total;
+    total.start();
+    double best = std::numeric_limits<double>::max();
+    for (int i = 0; i < runs && (i == 0 || total.elapsed() < budgetMilliseconds); ++i)
+        best = std::min(best, double(run()));
+    return best;
+}
+
 /// Prints one figure beside its Qt counterpart: "name  ours  qt-name  theirs  ratio".
 inline void report(const char *name, double ourNanoseconds, const char *qtName, double qtNanoseconds)
 {

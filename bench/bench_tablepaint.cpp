@@ -3,11 +3,11 @@
 // beside QTableView painting the same model, size and selection; and the same for an outline
 // of 1,000 items of 99 children each (100,000 rows), expanded, beside QTreeView.
 #include "BenchHarness.h"
+#include "BenchModels.h"
 
 #include <Brixel/ZARNOutlineView.h>
 #include <Brixel/ZARNTableView.h>
 
-#include <QAbstractTableModel>
 #include <QApplication>
 #include <QHeaderView>
 #include <QImage>
@@ -29,50 +29,6 @@ void activate(QWidget &view)
     if (!view.isActiveWindow())
         qFatal("the window did not become active");
 }
-
-/// 100,000 rows of 5 short strings, made on request.
-class StringModel : public QAbstractTableModel
-{
-public:
-    int rowCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : 100000; }
-    int columnCount(const QModelIndex &parent) const override { return parent.isValid() ? 0 : 5; }
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        if (role != Qt::DisplayRole)
-            return {};
-        return QStringLiteral("Item %1 of column %2").arg(index.row()).arg(index.column());
-    }
-};
-
-/// 1,000 top-level items of 99 children each, 5 short strings a row, made on request.
-class TreeModel : public QAbstractItemModel
-{
-public:
-    static constexpr quintptr Top = 0xffffffff;
-    QModelIndex index(int row, int column, const QModelIndex &parent) const override
-    {
-        if (!hasIndex(row, column, parent))
-            return {};
-        return createIndex(row, column, parent.isValid() ? quintptr(parent.row()) : Top);
-    }
-    QModelIndex parent(const QModelIndex &child) const override
-    {
-        return !child.isValid() || child.internalId() == Top ? QModelIndex() : createIndex(int(child.internalId()), 0, Top);
-    }
-    int rowCount(const QModelIndex &parent) const override
-    {
-        if (!parent.isValid())
-            return 1000;
-        return parent.internalId() == Top && parent.column() == 0 ? 99 : 0;
-    }
-    int columnCount(const QModelIndex &) const override { return 5; }
-    QVariant data(const QModelIndex &index, int role) const override
-    {
-        if (role != Qt::DisplayRole)
-            return {};
-        return QStringLiteral("Item %1 of column %2").arg(index.row()).arg(index.column());
-    }
-};
 
 /// The view at 1000 x 800, focused in the active window, every visible row selected.
 void prepare(QTreeView &view, QAbstractItemModel &model)
@@ -128,7 +84,7 @@ void compare(const char *name, OurView &ours, const char *qtName, View &theirs, 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    StringModel model;
+    brixelbench::TextTableModel model(100000, 5);
 
     ZARNTableView table;
     table.setHighlightStyle(ZARNTableView::HighlightStyle::Capsule);
@@ -140,8 +96,8 @@ int main(int argc, char *argv[])
     QTreeView plainTree;
     // Declared after the views so that it goes first: a model's end drops every persistent
     // index at once, where each tree view would otherwise remove its 1,000 expanded items'
-    // indexes one by one, which takes Qt minutes.
-    TreeModel tree;
+    // indexes one by one.
+    brixelbench::TreeModel tree(1000, 99, 5);
     compare("ZARNOutlineView repaint 1000x800, rows selected", outline, "QTreeView repaint, same", plainTree, tree);
     return 0;
 }
