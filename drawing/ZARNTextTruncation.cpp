@@ -21,30 +21,55 @@ bool fitsLimit(float width, double limit)
     return !(double(width) > limit);
 }
 
-// Whether the whole of \a string fits \a limit. A long string is first judged by starts of
-// it, each four times longer than the one before: widths only grow as characters are added
+// How much of a string was measured and how wide it was.
+struct Measurement
+{
+    qsizetype length = 0;
+    float width = 0.0f;
+
+    bool fits(double limit) const { return fitsLimit(width, limit); }
+
+    // Where the prefix search starts: the length that would fit \a limit with room for the
+    // dots if every character were as wide as the measured ones on average. The search finds
+    // the exact length from there, usually in three measurements.
+    qsizetype guessFor(double limit) const
+    {
+        if (length == 0 || !(width > 0.0f))
+            return 0;
+        const double perCharacter = double(width) / double(length);
+        const double room = limit - 2.0 * perCharacter;
+        return room > 0.0 ? qsizetype(room / perCharacter) : 0;
+    }
+};
+
+// Measures the whole of \a string against \a limit. A long string is first judged by starts
+// of it, each four times longer than the one before: widths only grow as characters are added
 // (up to kerning at the cut, which the two characters after a start cover), so a start that is
 // too wide settles it without laying out the rest, often thousands of characters. Starts that
-// fit cost at most a third of the whole measurement on top.
-bool wholeStringFits(const ZARNAttributedString &string, double limit)
+// fit cost at most a third of the whole measurement on top. Answers the last measurement.
+Measurement measureAgainst(const ZARNAttributedString &string, double limit)
 {
     for (qsizetype start = 128; start + 2 <= string.length(); start *= 4) {
-        if (!fitsLimit(BrixelPrivate::attributedStringWidth(string.attributedSubstring({0, start})), limit))
-            return false;
+        const Measurement prefix{start, BrixelPrivate::attributedStringWidth(string.attributedSubstring({0, start}))};
+        if (!prefix.fits(limit))
+            return prefix;
     }
-    return fitsLimit(BrixelPrivate::attributedStringWidth(string), limit);
+    return {string.length(), BrixelPrivate::attributedStringWidth(string)};
 }
 
 // The longest start of \a text (at most \a maxLength characters) that fits \a limit with the
-// dots after it, -1 when not even the dots alone fit.
+// dots after it, -1 when not even the dots alone fit; the search starts at \a guess.
 qsizetype longestPrefixBeforeDots(const ZARNAttributedString &text, qsizetype maxLength, const ZARNAttributedString &tail,
-                                  double limit)
+                                  double limit, qsizetype guess)
 {
-    return BrixelPrivate::longestFittingLength(maxLength, [&](qsizetype length) {
-        ZARNAttributedString candidate = text.attributedSubstring({0, length});
-        candidate.append(tail);
-        return fitsLimit(BrixelPrivate::attributedStringWidth(candidate), limit);
-    });
+    return BrixelPrivate::longestFittingLength(
+        maxLength,
+        [&](qsizetype length) {
+            ZARNAttributedString candidate = text.attributedSubstring({0, length});
+            candidate.append(tail);
+            return fitsLimit(BrixelPrivate::attributedStringWidth(candidate), limit);
+        },
+        guess);
 }
 
 // Shortens a cell's \a text, drawn with \a attributes, to \a width and stores it through
@@ -55,10 +80,11 @@ void truncateCell(const QString &text, const QVariantMap &attributes, float widt
 {
     const double limit = double(width) - ZARNTruncationMargin;
     const ZARNAttributedString string(text, attributes);
-    if (wholeStringFits(string, limit))
+    const Measurement measured = measureAgainst(string, limit);
+    if (measured.fits(limit))
         return;
-    const qsizetype kept = longestPrefixBeforeDots(string, text.size() - 1,
-                                                   ZARNAttributedString(dots, attributes), limit);
+    const qsizetype kept = longestPrefixBeforeDots(string, text.size() - 1, ZARNAttributedString(dots, attributes),
+                                                   limit, measured.guessFor(limit));
     setText(text.left(std::max<qsizetype>(kept, 0)) + dots);
     if (kept < 0)
         throw std::out_of_range("TruncateStringInCell: the width cannot hold \"...\"");
@@ -91,13 +117,15 @@ void Brixel::TruncateStringInCell(QStandardItem *item, float width)
 ZARNAttributedString Brixel::TruncateAttributedString(const ZARNAttributedString &string, float width)
 {
     const double limit = double(width) - ZARNTruncationMargin;
-    if (wholeStringFits(string, limit))
+    const Measurement measured = measureAgainst(string, limit);
+    if (measured.fits(limit))
         return string;
     if (string.isEmpty())
         throw std::out_of_range("TruncateAttributedString: an empty string has no last character");
 
     const ZARNAttributedString tail(dots, string.attributesAtIndex(string.length() - 1));
-    const qsizetype kept = std::max<qsizetype>(longestPrefixBeforeDots(string, string.length() - 1, tail, limit), 0);
+    const qsizetype kept = std::max<qsizetype>(
+        longestPrefixBeforeDots(string, string.length() - 1, tail, limit, measured.guessFor(limit)), 0);
     ZARNAttributedString truncated = string.attributedSubstring({0, kept});
     truncated.append(tail);
     return truncated;
