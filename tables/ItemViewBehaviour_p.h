@@ -68,7 +68,7 @@ BRIXEL_AUTOTEST_EXPORT bool controlClickSelectsFirst(const QMouseEvent *event);
  * d->behaviour = new BrixelPrivate::ItemViewBehaviour(this);
  * d->behaviour->followColumnWidths(header());
  * connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, [this] {
- *     if (d->behaviour->takeColumnWidthsChanged())
+ *     if (d->behaviour->takeColumnWidthsChanged() && wordWrap())
  *         doItemsLayout();
  * });
  * ...

@@ -479,10 +479,11 @@ ZARNOutlineView::ZARNOutlineView(QWidget *parent)
             d->autoExpanded.append(item);
     });
     connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::applicationBecameActive, this, &ZARNOutlineView::userDefaultsDidChange);
-    // Rows change height with their columns' widths only when their heights are not uniform.
+    // Rows change height with their columns' widths only when their text wraps and their
+    // heights are not uniform.
     d->behaviour->followColumnWidths(columnHeader);
     connect(d->behaviour, &BrixelPrivate::ItemViewBehaviour::liveResizeEnded, this, [this] {
-        if (d->behaviour->takeColumnWidthsChanged() && !uniformRowHeights())
+        if (d->behaviour->takeColumnWidthsChanged() && wordWrap() && !uniformRowHeights())
             doItemsLayout();
     });
 }

@@ -120,8 +120,8 @@ public:
 
     /// Whether the view is being resized: from a resize until
     /// ZARNTableView::LiveResizeSettleInterval ms after the last one, when the rows are laid
-    /// out again if a column's width changed and uniformRowHeights() is off (only then can a
-    /// row's height change). False without a QApplication.
+    /// out again if a column's width changed, wordWrap() is on and uniformRowHeights() is off
+    /// (only then can a row's height change). False without a QApplication.
     bool inLiveResize() const;
 
     /// Whether the view takes keyboard focus: isEnabled().

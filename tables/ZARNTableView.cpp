@@ -618,7 +618,7 @@ void ZARNTableView::dropEvent(QDropEvent *event)
 
 void ZARNTableView::viewDidEndLiveResize()
 {
-    if (d->behaviour->takeColumnWidthsChanged())
+    if (d->behaviour->takeColumnWidthsChanged() && wordWrap())
         doItemsLayout();
 }
 

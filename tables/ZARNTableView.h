@@ -213,7 +213,8 @@ protected:
     virtual QMenu *menuForEvent(QMouseEvent *event);
 
     /// Runs once a series of resizes has settled: lays the rows out again when a column's
-    /// width changed since the last time, as rows of wrapped text may then change height.
+    /// width changed since the last time and wordWrap() is on, as rows of wrapped text may
+    /// then change height.
     virtual void viewDidEndLiveResize();
 
     /// Runs \a drag (QDrag::exec) and answers the action the drop took.

@@ -40,6 +40,8 @@ public:
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        if (rowHeight)
+            return {size.width(), rowHeight()};
         return index.column() == tallColumn ? QSize(size.width(), 60) : size;
     }
     /// The painted cells, sorted, forgetting them.
@@ -53,6 +55,7 @@ public:
     mutable QStringList painted;
     mutable QList<QRect> rects;
     int tallColumn = -1;
+    std::function<int()> rowHeight; ///< the height of every row, when set
 };
 
 class NoticeCounter : public ZARNTableViewDelegate
@@ -113,6 +116,7 @@ private Q_SLOTS:
     void noticesReachEveryColumn();
     void headerClickSortsAndSelects();
     void hidingATallColumnLaysRowsOut();
+    void wrappedRowsFollowWidthsOnceAResizeSettles();
     void alternateRowsAreFilled();
 };
 
@@ -242,6 +246,37 @@ void TestQtParity::hidingATallColumnLaysRowsOut()
     QVERIFY(view.visualRect(model.index(0, 0)).height() < 60);
     view.showColumnWithIdentifier(u"Tall"_s);
     QCOMPARE(view.visualRect(model.index(0, 0)).height(), 60);
+}
+
+// Rows as tall as their first column is wide stand for rows of wrapped text: they are laid
+// out again once a resize that changed a column's width settles, and only while words wrap.
+void TestQtParity::wrappedRowsFollowWidthsOnceAResizeSettles()
+{
+    QStandardItemModel model;
+    fill(model, 3, 2);
+    SpyDelegate spy;
+    ZARNOutlineView view;
+    spy.rowHeight = [&view] { return view.header()->sectionSize(0) / 4; };
+    prepare(view, model, spy, {400, 300});
+    view.setWordWrap(true);
+    const auto rowHeight = [&] { return view.visualRect(model.index(0, 0)).height(); };
+    const auto widenAndResize = [&] {
+        QTRY_VERIFY(!view.inLiveResize());
+        view.header()->resizeSection(0, view.header()->sectionSize(0) + 40);
+        view.resize(view.size() + QSize(10, 0));
+    };
+    view.doItemsLayout();
+    const int narrow = rowHeight();
+
+    widenAndResize();
+    QCOMPARE(rowHeight(), narrow);
+    QTRY_COMPARE(rowHeight(), narrow + 10);
+
+    view.setWordWrap(false);
+    view.doItemsLayout(); // the layout Qt schedules for the new setting, done now
+    widenAndResize();
+    QTRY_VERIFY(!view.inLiveResize());
+    QCOMPARE(rowHeight(), narrow + 10);
 }
 
 void TestQtParity::alternateRowsAreFilled()
