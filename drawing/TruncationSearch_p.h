@@ -17,6 +17,11 @@ namespace BrixelPrivate {
 /// starting a new line.
 BRIXEL_AUTOTEST_EXPORT float attributedStringWidth(const ZARNAttributedString &string);
 
+/// Brixel::TruncateAttributedString() of a \a string whose attributedStringWidth() is already
+/// known to be \a measuredWidth, which saves measuring it again.
+BRIXEL_AUTOTEST_EXPORT ZARNAttributedString truncateMeasuredString(const ZARNAttributedString &string, float width,
+                                                                   float measuredWidth);
+
 /**
  * The largest length from 0 to \a maxLength for which \a fits answers true, assuming that a
  * prefix that fits stays fitting when it is made shorter, apart from a character or two at

@@ -6,6 +6,7 @@
 #include "../values/NSMutableAttributedString_Category.h"
 #include "../drawing/ZARNAttributedStringDrawing.h"
 #include "../platform/ZARNSystemVersion.h"
+#include "../drawing/TruncationSearch_p.h"
 #include "../drawing/ZARNTextTruncation.h"
 
 #include <QBrush>
@@ -74,7 +75,8 @@ struct ShortenedTextKey
 class ZARNTextFieldCellPrivate
 {
 public:
-    QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width);
+    QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width,
+                      std::optional<qreal> measuredWidth = std::nullopt);
 
     QColor textColor;
     QColor backgroundColor;
@@ -93,13 +95,16 @@ public:
 };
 
 // The text a cell shows for \a text in one style, \a attributes, at \a width: the text itself
-// when it fits, else its shortened form.
-QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width)
+// when it fits, else its shortened form. \a measuredWidth is the text's width when known.
+QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width,
+                                            std::optional<qreal> measuredWidth)
 {
     ShortenedTextKey key{text.string(), attributes.value(ZARNFontAttributeName).value<QFont>(), width};
     if (const QString *shown = shortenedTexts.object(key))
         return *shown;
-    const QString shown = Brixel::TruncateAttributedString(text, float(width)).string();
+    const QString shown = measuredWidth
+        ? BrixelPrivate::truncateMeasuredString(text, float(width), float(*measuredWidth)).string()
+        : Brixel::TruncateAttributedString(text, float(width)).string();
     shortenedTexts.insert(std::move(key), new QString(shown));
     return shown;
 }
@@ -259,12 +264,18 @@ void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &opt
                            bounds, vertical);
         return;
     }
-    // Most cells fit: lay the text out once, plainly, and draw that same layout.
+    // Most cells fit: lay the text out once, plainly, and draw that same layout. A shortened
+    // text is in the same one style, so it is laid out plainly too.
     const ZARNAttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
-    if (fitsCell(layout.width(), bounds.width()))
+    if (fitsCell(layout.width(), bounds.width())) {
         placeText(*painter, layout, bounds, vertical);
-    else if (fitsCell(dotsWidth(style.font), bounds.width()))
-        drawAttributedText(*painter, attributedString(style), bounds, vertical);
+    } else if (fitsCell(dotsWidth(style.font), bounds.width())) {
+        const QString shown = d->shownText(attributedString(style), {{ZARNFontAttributeName, style.font}}, bounds.width(),
+                                           layout.width());
+        const ZARNAttributedTextLayout shortened(shown, style.font, style.color, style.alignment);
+        if (fitsCell(shortened.width(), bounds.width()))
+            placeText(*painter, shortened, bounds, vertical);
+    }
 }
 
 QSize ZARNTextFieldCell::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
