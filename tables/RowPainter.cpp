@@ -95,7 +95,9 @@ RowPainter::RowPainter(QPainter &painter, const QAbstractItemView &view, QStyleO
         return;
     const int firstShown = columns.firstShownModelColumn();
     const int lastShown = columns.lastShownModelColumn();
-    const auto [firstDrawn, lastDrawn] = visualSectionsBetween(*header, area.left(), area.right());
+    const std::pair<int, int> drawnSections = visualSectionsBetween(*header, area.left(), area.right());
+    const int firstDrawn = drawnSections.first;
+    const int lastDrawn = drawnSections.second;
     const auto addColumn = [&](ZARNTableColumn *column, int logical) {
         const int visual = header->visualIndex(logical);
         m_columns.push_back({column, logical, visual >= firstDrawn && visual <= lastDrawn,
