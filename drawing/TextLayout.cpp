@@ -18,12 +18,23 @@ QString BrixelPrivate::withLineSeparators(const QString &text)
     return separated;
 }
 
-void BrixelPrivate::prepareTextLayout(QTextLayout &layout, const ZARNAttributedString &string, QTextOption::WrapMode wrapMode)
+std::optional<QColor> BrixelPrivate::prepareTextLayout(QTextLayout &layout, const ZARNAttributedString &string,
+                                                      QTextOption::WrapMode wrapMode)
 {
     layout.setText(withLineSeparators(string.string()));
-    layout.setFont(QFont());
-    layout.setFormats(string.formatRanges());
     QTextOption option;
     option.setWrapMode(wrapMode);
     layout.setTextOption(option);
+    ZARNRange fontRun;
+    ZARNRange colorRun;
+    const QVariant font = string.isEmpty() ? QVariant() : string.attribute(ZARNFontAttributeName, 0, &fontRun);
+    const QVariant color = string.isEmpty() ? QVariant() : string.attribute(ZARNForegroundColorAttributeName, 0, &colorRun);
+    if (string.isEmpty() || fontRun.length != string.length() || colorRun.length != string.length()) {
+        layout.setFont(QFont());
+        layout.setFormats(string.formatRanges());
+        return std::nullopt;
+    }
+    layout.setFont(font.value<QFont>());
+    layout.clearFormats();
+    return color.isValid() ? color.value<QColor>() : QColor();
 }

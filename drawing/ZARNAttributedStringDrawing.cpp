@@ -46,8 +46,10 @@ ZARNAttributedTextLayout::ZARNAttributedTextLayout(const ZARNAttributedString &s
                                            bool antialiased)
     : m_string(string)
 {
-    BrixelPrivate::prepareTextLayout(m_layout, string,
-                      wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+    const std::optional<QColor> color = BrixelPrivate::prepareTextLayout(
+        m_layout, string, wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
+    if (color && color->isValid())
+        m_color = *color;
     if (!antialiased)
         switchOffAntialiasing(m_layout);
     // A NaN width fails the comparison and wraps after every character, as 0 does.

@@ -94,12 +94,6 @@ void truncateCell(const QString &text, const QVariantMap &attributes, float widt
 
 float BrixelPrivate::attributedStringWidth(const ZARNAttributedString &string)
 {
-    // Only fonts change widths. Text in one font throughout measures as plain text in that
-    // font, without the format ranges that make a layout about 1.6 times as costly.
-    ZARNRange fontRange;
-    const QVariant font = string.isEmpty() ? QVariant() : string.attribute(ZARNFontAttributeName, 0, &fontRange);
-    if (!string.isEmpty() && fontRange.length == string.length())
-        return float(ZARNAttributedTextLayout(string.string(), font.value<QFont>(), QColor(), Qt::AlignLeft).width());
     return float(ZARNAttributedTextLayout(string, 0, false).width());
 }
 
