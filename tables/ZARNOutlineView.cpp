@@ -168,13 +168,10 @@ ZARNOutlineViewPrivate::ZARNOutlineViewPrivate(ZARNOutlineView *view)
 QModelIndex ZARNOutlineViewPrivate::rowItemAt(QPoint point) const
 {
     // Rows are found by height alone, as in a table: look in the first shown column.
-    const QHeaderView *header = q->header();
-    for (int visual = 0; visual < header->count(); ++visual) {
-        const int logical = header->logicalIndex(visual);
-        if (!header->isSectionHidden(logical))
-            return q->indexAt({header->sectionViewportPosition(logical), point.y()}).siblingAtColumn(0);
-    }
-    return {};
+    const int first = columns->firstShownModelColumn();
+    if (first < 0)
+        return {};
+    return q->indexAt({q->header()->sectionViewportPosition(first), point.y()}).siblingAtColumn(0);
 }
 
 bool ZARNOutlineViewPrivate::showsMarkerFor(const QModelIndex &item) const
@@ -275,8 +272,8 @@ int ZARNOutlineViewPrivate::visualRowOf(const QModelIndex &item)
 
 QRect ZARNOutlineViewPrivate::rowRect(const QModelIndex &item) const
 {
-    const ZARNTableColumn *first = columns->columnAt(0);
-    const QRect cell = first && item.isValid() ? q->visualRect(item.siblingAtColumn(first->modelColumn())) : QRect();
+    const int first = columns->firstShownModelColumn();
+    const QRect cell = first >= 0 && item.isValid() ? q->visualRect(item.siblingAtColumn(first)) : QRect();
     return cell.isValid() ? QRect(0, cell.y(), q->viewport()->width(), cell.height()) : QRect();
 }
 
@@ -891,8 +888,8 @@ void ZARNOutlineView::dragMoveEvent(QDragMoveEvent *event)
     if (const QModelIndex below = indexBelow(item); below.isValid())
         rows.append(below);
     // A line between rows starts where the item's own cell does, after its indentation.
-    const ZARNTableColumn *first = d->columns->columnAt(0);
-    const qreal offset = first ? visualRect(item.siblingAtColumn(first->modelColumn())).x() : 0.0;
+    const int first = d->columns->firstShownModelColumn();
+    const qreal offset = first >= 0 ? visualRect(item.siblingAtColumn(first)).x() : 0.0;
     const BrixelPrivate::DropTarget target = BrixelPrivate::dropTargetAt(row, d->rowRect(item), position.y(),
                                                            item.flags().testFlag(Qt::ItemIsDropEnabled), offset);
     d->setDropTarget(target, std::move(rows));
