@@ -115,6 +115,7 @@ ZARNBitstream::ZARNBitstream(const std::optional<QByteArray> &data)
 
 void ZARNBitstream::setData(const std::optional<QByteArray> &data)
 {
+    settleLocation();
     m_data = data;
     if (m_data) {
         m_location = 0;
@@ -122,25 +123,27 @@ void ZARNBitstream::setData(const std::optional<QByteArray> &data)
         m_length = qint64(quint32(m_data->size()) * 8u);
     }
     m_readableBits = readableBits(m_data, m_length);
-    dropCache();
 }
 
 void ZARNBitstream::setLocation(qint64 location)
 {
+    settleLocation();
     if (m_data)
         m_location = location;
 }
 
 qint64 ZARNBitstream::location() const
 {
-    return m_data ? m_location : -1;
+    if (!m_data)
+        return -1;
+    return hasCache() ? cachedLocation() : m_location;
 }
 
 void ZARNBitstream::setLength(qint64 length)
 {
+    settleLocation();
     m_length = length;
     m_readableBits = readableBits(m_data, m_length);
-    dropCache();
 }
 
 qint64 ZARNBitstream::length() const
@@ -150,6 +153,7 @@ qint64 ZARNBitstream::length() const
 
 quint8 ZARNBitstream::readBit()
 {
+    settleLocation();
     if (m_location >= m_length || !m_data)
         return 0;
     const auto bit = quint8(peek64(m_data, m_readableBits, m_location) >> 63);
@@ -159,6 +163,7 @@ quint8 ZARNBitstream::readBit()
 
 quint32 ZARNBitstream::readBits(qint64 count)
 {
+    settleLocation();
     count = std::min(count, saturatingSub(m_length, m_location));
     if (count > 32)
         skipBits(count - 32);
@@ -209,29 +214,38 @@ qint64 ZARNBitstream::countExpGolombZeros()
     return saturatingSub(m_length, start);
 }
 
-// Starts the look-ahead at the position when there is room for it, else reads bit by bit
-// (long codes, codes near the ends of the buffer, positions outside it).
+// Starts the look-ahead at the position, with the rest of the byte there (the next refill
+// completes it), and reads from it; reads bit by bit where that cannot be done (long codes,
+// codes near the ends of the buffer, positions outside it).
 quint32 ZARNBitstream::readExpGolombStartingCache()
 {
-    if (m_location >= 0 && (m_location >> 3) + 16 <= (m_readableBits >> 3)) {
+    settleLocation();
+    if (m_location >= 0 && m_location < m_readableBits) {
         const qint64 first = m_location >> 3;
         const int shift = int(m_location & 7);
-        m_cache = wordAt(bytesOf(m_data), m_location);
-        m_cacheBits = 56 - shift;
-        m_cacheNext = first + 7;
-        m_cacheLocation = m_location;
+        m_cacheBytes = m_data->constData();
+        m_cache = quint64(uchar(m_cacheBytes[first])) << (56 + shift);
+        m_cacheBits = 8 - shift;
+        m_cacheNext = first + 1;
+        m_cacheLastLoad = (m_readableBits >> 3) - 8;
         quint32 value;
         if (readCachedExpGolomb(value))
             return value;
+        settleLocation();
     }
     const qint64 zeros = countExpGolombZeros();
     const quint32 power = zeros < 32 ? quint32(1) << zeros : 0u;
     return power + readBits(zeros) - 1u;
 }
 
-void ZARNBitstream::dropCache()
+// Ends the look-ahead, writing the position it holds back; every read other than
+// readExpGolomb() and every change of position, data or length starts with this.
+void ZARNBitstream::settleLocation()
 {
-    m_cacheNext = std::numeric_limits<qint64>::max();
+    if (!hasCache())
+        return;
+    m_location = cachedLocation();
+    m_cacheNext = NoCache;
 }
 
 qint32 ZARNBitstream::readSignedExpGolomb()
@@ -260,6 +274,7 @@ void ZARNBitstream::skipBytes(qint32 count)
 
 void ZARNBitstream::skipBits(qint64 count)
 {
+    settleLocation();
     m_location = saturatingAdd(m_location, count);
     // Intended: a skip past the end stops on the last bit, which stays readable.
     if (m_location >= m_length)
@@ -268,6 +283,7 @@ void ZARNBitstream::skipBits(qint64 count)
 
 void ZARNBitstream::skipExpGolomb()
 {
+    settleLocation();
     const qint64 zeros = countExpGolombZeros();
     if (zeros > 0)
         skipBits(zeros);

@@ -54,6 +54,11 @@ public:
     /// internally and report -1.
     explicit ZARNBitstream(const std::optional<QByteArray> &data = std::nullopt);
 
+    /// Copies share the buffer. There is no move: a stream "moved from" is copied from, so it
+    /// keeps its buffer and stays readable.
+    ZARNBitstream(const ZARNBitstream &) = default;
+    ZARNBitstream &operator=(const ZARNBitstream &) = default;
+
     /**
      * Replaces the buffer. With data, location() becomes 0 and length() 8 times the byte
      * count, computed in unsigned 32 bits: a buffer of 512 MiB or more wraps (exactly 512 MiB
@@ -115,7 +120,7 @@ public:
     quint32 readExpGolomb()
     {
         quint32 value;
-        if (m_cacheLocation == m_location && readCachedExpGolomb(value))
+        if (readCachedExpGolomb(value))
             return value;
         return readExpGolombStartingCache();
     }
@@ -144,13 +149,15 @@ public:
 private:
     // Kept inline for speed: tops the look-ahead up to at least 56 bits with one eight-byte
     // load and reads a code of up to 55 bits from it. False, with the position unchanged, when
-    // the load would leave the readable bytes or the code is longer.
+    // there is no look-ahead, the load would leave the readable bytes or the code is longer.
+    // The position stays in the look-ahead (see settleLocation()), so a code costs no other
+    // bookkeeping.
     bool readCachedExpGolomb(quint32 &value)
     {
-        if (m_cacheNext > (m_readableBits >> 3) - 8)
+        if (m_cacheNext > m_cacheLastLoad)
             return false;
         quint64 word;
-        std::memcpy(&word, m_data->constData() + m_cacheNext, sizeof word);
+        std::memcpy(&word, m_cacheBytes + m_cacheNext, sizeof word);
         m_cache |= qFromBigEndian(word) >> m_cacheBits;
         m_cacheNext += (63 - m_cacheBits) >> 3;
         m_cacheBits |= 56;
@@ -161,24 +168,29 @@ private:
         value = quint32(m_cache >> (64 - codeLength)) - 1u;
         m_cache <<= codeLength;
         m_cacheBits -= codeLength;
-        m_location += codeLength;
-        m_cacheLocation = m_location;
         return true;
     }
     quint32 readExpGolombStartingCache();
-    void dropCache();
+    bool hasCache() const { return m_cacheNext != NoCache; }
+    qint64 cachedLocation() const { return m_cacheNext * 8 - m_cacheBits; }
+    void settleLocation();
     qint64 countExpGolombZeros();
 
+    static constexpr qint64 NoCache = std::numeric_limits<qint64>::max();
+
     std::optional<QByteArray> m_data;
+    // The position while there is no look-ahead; with one, cachedLocation() is.
     qint64 m_location = 0;
     qint64 m_length = 0;
     // Bits that are both inside the buffer and before m_length: [0, m_readableBits).
     qint64 m_readableBits = 0;
-    // The look-ahead of readExpGolomb(), valid while m_cacheLocation equals m_location: the
-    // m_cacheBits bits from m_location on, left-aligned in m_cache (the bits after them are 0
-    // or the stream's), and m_cacheNext, the index of the byte after them.
+    // The look-ahead of readExpGolomb(): the m_cacheBits bits from the position on,
+    // left-aligned in m_cache (the bits after them are 0 or the stream's); m_cacheNext, the
+    // index of the byte after them (NoCache without a look-ahead); m_cacheLastLoad, the last
+    // index an eight-byte load may start at; m_cacheBytes, the buffer's bytes.
+    const char *m_cacheBytes = nullptr;
     quint64 m_cache = 0;
-    int m_cacheBits = 0;
-    qint64 m_cacheNext = std::numeric_limits<qint64>::max();
-    qint64 m_cacheLocation = 0;
+    qint64 m_cacheBits = 0;
+    qint64 m_cacheNext = NoCache;
+    qint64 m_cacheLastLoad = 0;
 };

@@ -140,6 +140,7 @@ private Q_SLOTS:
     void reads();
     void matchesBitAtATimeReading();
     void longCodesAtEveryAlignment();
+    void movedFromStreamStaysReadable();
 };
 
 void TestBitstream::reads_data()
@@ -231,6 +232,18 @@ void TestBitstream::longCodesAtEveryAlignment()
             read << stream.readExpGolomb();
         QCOMPARE(read, expected);
     }
+}
+
+// A "moved" stream is copied, so both go on reading the shared buffer, also mid-code-run.
+void TestBitstream::movedFromStreamStaysReadable()
+{
+    ZARNBitstream source(QByteArray::fromHex("a640a640a640a640a640a640"));
+    QCOMPARE(source.readExpGolomb(), 0u);
+    ZARNBitstream moved(std::move(source));
+    moved = ZARNBitstream(std::move(source));
+    QCOMPARE(source.readExpGolomb(), 1u);
+    QCOMPARE(moved.readExpGolomb(), 1u);
+    QCOMPARE(source.location(), 4);
 }
 
 void TestBitstream::matchesBitAtATimeReading()
