@@ -5,9 +5,13 @@
 
 #include <Brixel/brixel_export.h>
 
+#include "ZARNAttributedTextLayout.h"
+
+#include <QString>
 #include <QtGlobal>
 
 #include <algorithm>
+#include <memory>
 
 class ZARNAttributedString;
 
@@ -17,10 +21,23 @@ namespace BrixelPrivate {
 /// starting a new line.
 BRIXEL_AUTOTEST_EXPORT float attributedStringWidth(const ZARNAttributedString &string);
 
-/// Brixel::TruncateAttributedString() of a \a string whose attributedStringWidth() is already
-/// known to be \a measuredWidth, which saves measuring it again.
-BRIXEL_AUTOTEST_EXPORT ZARNAttributedString truncateMeasuredString(const ZARNAttributedString &string, float width,
-                                                                   float measuredWidth);
+/// Plain text shortened for drawing: the text, and its layout when the search laid it out.
+struct ShortenedText
+{
+    QString text;
+    std::unique_ptr<ZARNAttributedTextLayout> layout;
+};
+
+/**
+ * Brixel::TruncateAttributedString() of plain \a text in one \a font, already laid out as
+ * \a whole, with the shortened text's layout in \a color and \a alignment: the search lays
+ * out every candidate it measures and keeps the one it settles on for drawing. It starts
+ * where the starts of \a whole and \a dotsWidth, the width of "..." in the font, put the
+ * cut, which is usually exact. Text that fits, and text of which not even "..." fits, come
+ * back without a layout.
+ */
+BRIXEL_AUTOTEST_EXPORT ShortenedText shortenedPlainText(const QString &text, const QFont &font, const QColor &color, Qt::Alignment alignment,
+                                 float width, const ZARNAttributedTextLayout &whole, qreal dotsWidth);
 
 /**
  * The largest length from 0 to \a maxLength for which \a fits answers true, assuming that a
@@ -32,12 +49,21 @@ BRIXEL_AUTOTEST_EXPORT ZARNAttributedString truncateMeasuredString(const ZARNAtt
  * doubling steps, so a guess one or two characters off costs three or four calls.
  */
 template<typename Fits>
-qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess = 0);
+qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess = 0)
+{
+    return longestFittingLength(maxLength, fits, guess, [](qsizetype) { return false; });
+}
+
+/// The same, where \a surelyTooLong answers true for a length that is known not to fit
+/// without measuring it, which saves the look just past the boundary.
+template<typename Fits, typename SurelyTooLong>
+qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess, SurelyTooLong &&surelyTooLong);
 
 } // namespace BrixelPrivate
 
-template<typename Fits>
-qsizetype BrixelPrivate::longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess)
+template<typename Fits, typename SurelyTooLong>
+qsizetype BrixelPrivate::longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess,
+                                              SurelyTooLong &&surelyTooLong)
 {
     if (maxLength < 0)
         return -1;
@@ -49,7 +75,7 @@ qsizetype BrixelPrivate::longestFittingLength(qsizetype maxLength, Fits &&fits, 
             const qsizetype middle = fitting + (tooLong - fitting) / 2;
             (fits(middle) ? fitting : tooLong) = middle;
         }
-        if (tooLong + 1 > maxLength || !fits(tooLong + 1))
+        if (tooLong + 1 > maxLength || surelyTooLong(tooLong + 1) || !fits(tooLong + 1))
             return false;
         fitting = tooLong + 1;
         return true;

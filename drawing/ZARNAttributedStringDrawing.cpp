@@ -9,6 +9,7 @@
 #include <QGlyphRun>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -64,6 +65,13 @@ ZARNAttributedTextLayout::ZARNAttributedTextLayout(const QString &text, const QF
     m_layout.setText(BrixelPrivate::withLineSeparators(text));
     m_layout.setFont(font);
     layOutLines(std::numeric_limits<float>::max());
+}
+
+qreal ZARNAttributedTextLayout::cursorX(qsizetype position) const
+{
+    const int clamped = int(std::clamp<qsizetype>(position, 0, m_layout.text().size()));
+    const QTextLine line = m_layout.lineForTextPosition(clamped);
+    return line.isValid() ? line.cursorToX(clamped) - line.x() : 0.0;
 }
 
 void ZARNAttributedTextLayout::layOutLines(qreal lineWidth)

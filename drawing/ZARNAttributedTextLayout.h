@@ -45,6 +45,13 @@ public:
 
     /// The widest line's width, trailing spaces excluded; 0 for empty text.
     qreal width() const { return m_width; }
+    /**
+     * How far text position \a position (the place before the character there) is from the
+     * start of its line: for text on one line, the width of the text before it, which makes
+     * it a close estimate of how wide that start of the text is alone. Positions outside the
+     * text are taken as its start or end.
+     */
+    qreal cursorX(qsizetype position) const;
     /// The lines' heights added up. Empty text still has one empty line of its font's height.
     qreal height() const { return m_height; }
 

@@ -8,6 +8,7 @@
 #include <QStandardItem>
 #include <QTextLayout>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -15,6 +16,19 @@ namespace {
 
 constexpr float heightLimit = 10000.0f;
 const QString dots = QStringLiteral("...");
+constexpr double kerningAllowance = 1.0;
+
+// Whether the starts of \a text measure nearly where the layout of the whole puts them:
+// left-to-right text of the Latin, IPA and spacing-modifier letters without control
+// characters or line breaks, where a cut changes no more than the kerning of the last
+// character, which stays far below a third of a line.
+bool startsMeasureAsLaidOut(const QString &text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar character) {
+        const char16_t code = character.unicode();
+        return code >= 0x20 && code < 0x300 && !(code >= 0x7f && code < 0xa0);
+    });
+}
 
 bool fitsLimit(float width, double limit)
 {
@@ -141,10 +155,42 @@ ZARNAttributedString Brixel::TruncateAttributedString(const ZARNAttributedString
     return shortened(string, limit, measureAgainst(string, limit));
 }
 
-ZARNAttributedString BrixelPrivate::truncateMeasuredString(const ZARNAttributedString &string, float width,
-                                                          float measuredWidth)
+BrixelPrivate::ShortenedText BrixelPrivate::shortenedPlainText(const QString &text, const QFont &font, const QColor &color,
+                                                              Qt::Alignment alignment, float width,
+                                                              const ZARNAttributedTextLayout &whole, qreal dotsWidth)
 {
-    return shortened(string, double(width) - ZARNTruncationMargin, {string.length(), measuredWidth});
+    const double limit = double(width) - ZARNTruncationMargin;
+    if (fitsLimit(float(whole.width()), limit) || text.isEmpty())
+        return {text, nullptr};
+    // The longest start that the whole text's own positions say fits with the dots, allowing a
+    // pixel for the dots kerning closer to the last character than it did to the next one. A
+    // guess one character too long costs the search no more than an exact one.
+    qsizetype guess = 0;
+    for (qsizetype low = 0, high = text.size() - 1; low <= high;) {
+        const qsizetype middle = low + (high - low) / 2;
+        if (fitsLimit(float(whole.cursorX(middle) + dotsWidth), limit + kerningAllowance))
+            guess = middle, low = middle + 1;
+        else
+            high = middle - 1;
+    }
+    // The search's last length that fits is its answer, so the last layout that fits is the
+    // one to draw.
+    std::unique_ptr<ZARNAttributedTextLayout> fitting;
+    const auto fits = [&](qsizetype length) {
+        auto candidate = std::make_unique<ZARNAttributedTextLayout>(text.left(length) + dots, font, color, alignment);
+        if (!fitsLimit(float(candidate->width()), limit))
+            return false;
+        fitting = std::move(candidate);
+        return true;
+    };
+    // Past the boundary, a start that the whole text's positions put a third of a line beyond
+    // the limit cannot fit.
+    const bool estimatesHold = startsMeasureAsLaidOut(text);
+    const auto surelyTooLong = [&](qsizetype length) {
+        return estimatesHold && !fitsLimit(float(whole.cursorX(length) + dotsWidth - whole.height() / 3), limit);
+    };
+    const qsizetype kept = longestFittingLength(text.size() - 1, fits, guess, surelyTooLong);
+    return {text.left(std::max<qsizetype>(kept, 0)) + dots, std::move(fitting)};
 }
 
 QString Brixel::TruncateStringWithAttributes(const QString &string, const QVariantMap &attributes, float width)

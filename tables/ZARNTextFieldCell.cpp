@@ -75,8 +75,9 @@ struct ShortenedTextKey
 class ZARNTextFieldCellPrivate
 {
 public:
-    QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width,
-                      std::optional<qreal> measuredWidth = std::nullopt);
+    QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width);
+    std::unique_ptr<ZARNAttributedTextLayout> shortenedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width,
+                                                              const ZARNAttributedTextLayout &whole, qreal dotsWidth);
 
     QColor textColor;
     QColor backgroundColor;
@@ -95,18 +96,32 @@ public:
 };
 
 // The text a cell shows for \a text in one style, \a attributes, at \a width: the text itself
-// when it fits, else its shortened form. \a measuredWidth is the text's width when known.
-QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width,
-                                            std::optional<qreal> measuredWidth)
+// when it fits, else its shortened form.
+QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width)
 {
     ShortenedTextKey key{text.string(), attributes.value(ZARNFontAttributeName).value<QFont>(), width};
     if (const QString *shown = shortenedTexts.object(key))
         return *shown;
-    const QString shown = measuredWidth
-        ? BrixelPrivate::truncateMeasuredString(text, float(width), float(*measuredWidth)).string()
-        : Brixel::TruncateAttributedString(text, float(width)).string();
+    const QString shown = Brixel::TruncateAttributedString(text, float(width)).string();
     shortenedTexts.insert(std::move(key), new QString(shown));
     return shown;
+}
+
+// The layout of a plain \a style text that does not fit \a width (laid out whole as \a whole),
+// shortened; \a dotsWidth is the width of "..." in its font. A text shortened before is laid
+// out once; one met for the first time is drawn with the layout its shortening ended on.
+std::unique_ptr<ZARNAttributedTextLayout> ZARNTextFieldCellPrivate::shortenedLayout(const ZARNTextFieldCell::TextStyle &style,
+                                                                                qreal width,
+                                                                                const ZARNAttributedTextLayout &whole,
+                                                                                qreal dotsWidth)
+{
+    ShortenedTextKey key{style.text, style.font, width};
+    if (const QString *shown = shortenedTexts.object(key))
+        return std::make_unique<ZARNAttributedTextLayout>(*shown, style.font, style.color, style.alignment);
+    BrixelPrivate::ShortenedText shortened = BrixelPrivate::shortenedPlainText(
+        style.text, style.font, style.color, style.alignment, float(width), whole, dotsWidth);
+    shortenedTexts.insert(std::move(key), new QString(shortened.text));
+    return std::move(shortened.layout);
 }
 
 ZARNTextFieldCell::ZARNTextFieldCell(QObject *parent)
@@ -269,12 +284,10 @@ void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &opt
     const ZARNAttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
     if (fitsCell(layout.width(), bounds.width())) {
         placeText(*painter, layout, bounds, vertical);
-    } else if (fitsCell(dotsWidth(style.font), bounds.width())) {
-        const QString shown = d->shownText(attributedString(style), {{ZARNFontAttributeName, style.font}}, bounds.width(),
-                                           layout.width());
-        const ZARNAttributedTextLayout shortened(shown, style.font, style.color, style.alignment);
-        if (fitsCell(shortened.width(), bounds.width()))
-            placeText(*painter, shortened, bounds, vertical);
+    } else if (const qreal dots = dotsWidth(style.font); fitsCell(dots, bounds.width())) {
+        const auto shortened = d->shortenedLayout(style, bounds.width(), layout, dots);
+        if (shortened && fitsCell(shortened->width(), bounds.width()))
+            placeText(*painter, *shortened, bounds, vertical);
     }
 }
 

@@ -113,6 +113,8 @@ protected:
     void copyTextSettingsTo(ZARNTextFieldCell &cell) const;
 
 private:
+    friend class ZARNTextFieldCellPrivate;
+
     struct TextStyle
     {
         QString text;

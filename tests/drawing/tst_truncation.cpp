@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNTextTruncation.h>
 #include <Brixel/ZARNLabelTruncation.h>
+#include <Brixel/ZARNAttributedTextLayout.h>
 #include "drawing/TruncationSearch_p.h"
 
 #include <BrixelTest.h>
@@ -48,8 +49,9 @@ ZARNAttributedString stepByStep(const ZARNAttributedString &string, float width)
 }
 
 // Words with kerning pairs, ligature candidates, combining marks and right-to-left text.
-const QString words[] = {u"AVATAR"_s, u"To"_s, u"Wo"_s, u"office"_s, u"flow"_s, u"Yes,"_s, u"LT"_s,
-                         u"naïve"_s, u"e\u0301te\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"1234"_s, u"..."_s, u"ij"_s};
+// The first nine are in Latin letters only.
+const QString words[] = {u"AVATAR"_s, u"To"_s, u"Wo"_s, u"office"_s, u"flow"_s, u"Yes,"_s, u"LT"_s, u"naïve"_s,
+                         u"1234"_s, u"e\u0301te\u0301"_s, u"שלום"_s, u"مرحبا"_s, u"..."_s, u"ij"_s};
 
 ZARNAttributedString randomText(QRandomGenerator &random, int maxWords = 8)
 {
@@ -71,6 +73,7 @@ class TestTruncation : public QObject
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
     void sameAsShorteningOneCharacterAtATime();
+    void plainTextSameAsShorteningOneCharacterAtATime();
     void limits();
     void cellsAreShortenedInPlace();
     void heightForWidth();
@@ -90,6 +93,31 @@ void TestTruncation::sameAsShorteningOneCharacterAtATime()
         const ZARNAttributedString text = randomText(random, 120);
         const float width = float(random.bounded(20, 3000));
         QCOMPARE(Brixel::TruncateAttributedString(text, width), stepByStep(text, width));
+    }
+}
+
+// A cell's path: plain text in one font, searched from the layout of the whole text, and the
+// layout it hands back for drawing is the shortened text's.
+void TestTruncation::plainTextSameAsShorteningOneCharacterAtATime()
+{
+    QRandomGenerator random(20261125);
+    for (int round = 0; round < 600; ++round) {
+        // Every other text in Latin letters only, where the search also trusts the layout.
+        const int wordChoices = round % 2 ? 9 : int(std::size(words));
+        QString text;
+        for (int word = random.bounded(1, 9); word > 0; --word)
+            text += words[random.bounded(wordChoices)] + (random.bounded(3) ? u" "_s : QString());
+        const QFont cellFont = font(8 + random.bounded(20), random.bounded(2));
+        const float width = float(random.bounded(5, 260)) + float(random.bounded(100)) / 100.0f;
+        const ZARNAttributedTextLayout whole(text, cellFont, Qt::black, Qt::AlignLeft);
+        const qreal dotsWidth = ZARNAttributedTextLayout(u"..."_s, cellFont, Qt::black, Qt::AlignLeft).width();
+
+        const BrixelPrivate::ShortenedText shortened =
+            BrixelPrivate::shortenedPlainText(text, cellFont, Qt::black, Qt::AlignLeft, width, whole, dotsWidth);
+        const ZARNAttributedString expected = stepByStep(ZARNAttributedString(text, {{ZARNFontAttributeName, cellFont}}), width);
+        QCOMPARE(shortened.text, expected.string());
+        if (shortened.layout)
+            QCOMPARE(float(shortened.layout->width()), attributedStringWidth(expected));
     }
 }
 
