@@ -4,14 +4,12 @@
 #include <Brixel/ZARNOutlineView.h>
 #include <Brixel/ZARNOutlineViewDelegate.h>
 #include <Brixel/ZARNTableColumn.h>
-#include <Brixel/ZARNTableViewDataSource.h>
 #include <Brixel/ZARNTextFieldCell.h>
 
 #include "BrixelTest.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -24,35 +22,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Records what the view tells its delegate and answers the marker question when told to.
-class RecordingDelegate : public ZARNOutlineViewDelegate
+// Answers the marker question when told to.
+class MarkerDelegate : public ZARNOutlineViewDelegate
 {
 public:
-    QStringList calls;
-    QList<ZARNNotification> notifications;
-    QList<QRect> drawnRects;
-    std::optional<bool> showsMarker;
-
-    void outlineViewReturnKey(ZARNOutlineView *) override { calls << u"return"_s; }
-    void outlineViewDeleteBackward(ZARNOutlineView *) override { calls << u"delete"_s; }
-    void outlineViewSelectionIsChanging(const ZARNNotification &notification) override
-    {
-        calls << u"changing"_s;
-        notifications << notification;
-    }
     std::optional<bool> outlineViewShouldShowIndentationMarkerForItem(ZARNOutlineView *, const QModelIndex &) override
     {
         return showsMarker;
     }
-    void tableViewWillDrawRect(ZARNOutlineView *, const QRect &rect) override { drawnRects << rect; }
-};
-
-// A model that would refuse every right-click selection if it were asked.
-class RefusingModel : public QStandardItemModel, public ZARNTableViewDataSource
-{
-public:
-    bool respondsToTableviewShouldSelectRow() const override { return true; }
-    std::optional<bool> tableViewShouldSelectRow(ZARNTableView *, int) override { return false; }
+    std::optional<bool> showsMarker;
 };
 
 // Rows "a" (children "a1" with child "a1x", and "a2"), "b", "c"; columns "name", "size", "kind".
@@ -75,11 +53,10 @@ void fill(QStandardItemModel &model)
 // A shown outline over the model above, with fixed section widths for click positions.
 struct Fixture
 {
-    explicit Fixture(QStandardItemModel *customModel = nullptr)
-        : model(customModel ? customModel : &ownModel)
+    Fixture()
     {
-        fill(*model);
-        view.setModel(model);
+        fill(model);
+        view.setModel(&model);
         view.setDelegate(&delegate);
         view.setIndentation(16);
         view.setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -93,7 +70,7 @@ struct Fixture
 
     QModelIndex item(const QString &name) const
     {
-        return model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchRecursive | Qt::MatchExactly).value(0);
+        return model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchRecursive | Qt::MatchExactly).value(0);
     }
 
     QPoint pointIn(const QString &name, int x) const { return {x, view.visualRect(item(name)).center().y()}; }
@@ -115,43 +92,9 @@ struct Fixture
         return names;
     }
 
-    void select(const QStringList &names)
-    {
-        view.selectionModel()->clearSelection();
-        for (const QString &name : names)
-            view.selectionModel()->select(item(name), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
-
-    QStandardItemModel ownModel;
-    QStandardItemModel *model;
-    RecordingDelegate delegate;
+    QStandardItemModel model;
+    MarkerDelegate delegate;
     ZARNOutlineView view;
-};
-
-class DragOutlineView : public ZARNOutlineView
-{
-public:
-    using ZARNOutlineView::startDrag;
-};
-
-// Notes whether the view was making a drag image each time a cell was painted.
-class FlagProbe : public QStyledItemDelegate
-{
-public:
-    explicit FlagProbe(ZARNOutlineView *view)
-        : QStyledItemDelegate(view)
-        , m_view(view)
-    {
-    }
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        flags << m_view->inDragPrep();
-        QStyledItemDelegate::paint(painter, option, index);
-    }
-    mutable QList<bool> flags;
-
-private:
-    ZARNOutlineView *m_view;
 };
 
 } // namespace
@@ -169,10 +112,6 @@ private Q_SLOTS:
     void initTestCase();
     void defaults_data();
     void defaults();
-    void keys_data();
-    void keys();
-    void clicks_data();
-    void clicks();
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
     void textCellsGreyWhileDisabled_data();
@@ -187,9 +126,8 @@ private Q_SLOTS:
     void editorDrawsNoBackground();
     void tile2LogsTheShownRows_data();
     void tile2LogsTheShownRows();
-    void dragImageIsMadeInDragPrep();
     void zapHidesTheMarkers();
-    void worksWithoutModelOrDelegate();
+    void worksWithoutModel();
 };
 
 void TestOutlineView::initTestCase()
@@ -224,117 +162,6 @@ void TestOutlineView::defaults()
     QFETCH(ViewCheck, check);
     const ZARNOutlineView view;
     QVERIFY(check(view));
-}
-
-void TestOutlineView::keys_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QStringList>("calls");
-    QTest::addColumn<QStringList>("selected");
-    QTest::addColumn<bool>("aExpanded");
-
-    const QStringList none;
-    QTest::newRow("Return") << u"b"_s << int(Qt::Key_Return) << QStringList{u"return"_s} << QStringList{u"b"_s} << false;
-    QTest::newRow("Backspace") << u"b"_s << int(Qt::Key_Backspace) << QStringList{u"delete"_s} << QStringList{u"b"_s} << false;
-    QTest::newRow("Down moves the row") << u"b"_s << int(Qt::Key_Down) << QStringList{u"changing"_s} << QStringList{u"c"_s} << false;
-    QTest::newRow("Right expands as Qt does") << u"a"_s << int(Qt::Key_Right) << none << QStringList{u"a"_s} << true;
-}
-
-void TestOutlineView::keys()
-{
-    QFETCH(QString, start);
-    QFETCH(int, key);
-    QFETCH(QStringList, calls);
-    QFETCH(QStringList, selected);
-    QFETCH(bool, aExpanded);
-    Fixture f;
-    f.view.setCurrentIndex(f.item(start));
-    f.view.setFocus();
-
-    QTest::keyClick(&f.view, Qt::Key(key));
-
-    QCOMPARE(f.delegate.calls, calls);
-    QCOMPARE(f.selectedNames(), selected);
-    QCOMPARE(f.view.isExpanded(f.item(u"a"_s)), aExpanded);
-    for (const ZARNNotification &notification : std::as_const(f.delegate.notifications)) {
-        QCOMPARE(notification.name, QString(NSTableViewSelectionIsChangingNotification));
-        QCOMPARE(notification.object, &f.view);
-        QVERIFY(notification.userInfo.isEmpty());
-    }
-}
-
-void TestOutlineView::clicks_data()
-{
-    QTest::addColumn<QStringList>("before");
-    QTest::addColumn<bool>("withMenu");
-    QTest::addColumn<Action>("click");
-    QTest::addColumn<QStringList>("after");
-    QTest::addColumn<QString>("menuRow");  // empty: no menu shown; "-": shown for no row
-
-    const auto right = [](const QString &name) {
-        return Action([name](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(name, 60)); });
-    };
-    const auto control = [](const QString &name) {
-        return Action([name](Fixture &f) { QTest::mouseClick(f.view.viewport(), Qt::LeftButton, Qt::MetaModifier, f.pointIn(name, 60)); });
-    };
-    const auto doubleClick = [](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-        return Action([=](Fixture &f) {
-            const QPoint at = f.pointIn(u"c"_s, 60);
-            QMouseEvent event(QEvent::MouseButtonDblClick, at, f.view.viewport()->mapToGlobal(at), button, button, modifiers);
-            QApplication::sendEvent(f.view.viewport(), &event);
-        });
-    };
-    const auto menuEvent = [](QContextMenuEvent::Reason reason) {
-        return Action([reason](Fixture &f) {
-            f.view.selectionModel()->setCurrentIndex(f.item(u"b"_s), QItemSelectionModel::NoUpdate);
-            const QPoint at = f.pointIn(u"c"_s, 60);
-            QContextMenuEvent event(reason, at, f.view.viewport()->mapToGlobal(at));
-            QApplication::sendEvent(f.view.viewport(), &event);
-        });
-    };
-    const QStringList ab{u"a"_s, u"b"_s};
-    const QStringList c{u"c"_s};
-
-    // The model would refuse every right-click selection: the outline never asks it.
-    QTest::newRow("right press selects an unselected row alone") << ab << true << right(u"c"_s) << c << u"c"_s;
-    QTest::newRow("right press keeps a selection it falls in") << ab << true << right(u"b"_s) << ab << u"b"_s;
-    QTest::newRow("right press without a menu") << ab << false << right(u"c"_s) << c << QString();
-    QTest::newRow("right press below the rows")
-        << ab << true << Action([](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, {60, 140}); })
-        << ab << u"-"_s;
-    QTest::newRow("menu key opens at the current row") << ab << true << menuEvent(QContextMenuEvent::Keyboard) << ab << u"b"_s;
-    QTest::newRow("mouse menu event leaves it to the press") << ab << true << menuEvent(QContextMenuEvent::Mouse) << ab << QString();
-    QTest::newRow("control-click selects, then opens the menu") << ab << true << control(u"c"_s) << c << u"c"_s;
-    QTest::newRow("control double click only opens the menu")
-        << ab << true << doubleClick(Qt::LeftButton, Qt::MetaModifier) << ab << u"c"_s;
-}
-
-void TestOutlineView::clicks()
-{
-    QFETCH(QStringList, before);
-    QFETCH(bool, withMenu);
-    QFETCH(Action, click);
-    QFETCH(QStringList, after);
-    QFETCH(QString, menuRow);
-    RefusingModel model;
-    Fixture f(&model);
-    QMenu menu;
-    menu.addAction(u"Open"_s);
-    QSignalSpy aboutToShow(&menu, &QMenu::aboutToShow);
-    if (withMenu)
-        f.view.setMenu(&menu);
-    f.select(before);
-
-    click(f);
-
-    QCOMPARE(f.selectedNames(), after);
-    QCOMPARE(aboutToShow.count(), menuRow.isEmpty() ? 0 : 1);
-    QCOMPARE(menu.isVisible(), !menuRow.isEmpty());
-    const QModelIndex expectedItem = menuRow.isEmpty() || menuRow == u"-"_s ? QModelIndex() : f.item(menuRow);
-    QCOMPARE(f.view.contextMenuItem(), expectedItem);
-    menu.close();
-    QVERIFY(!f.view.contextMenuItem().isValid());
 }
 
 void TestOutlineView::hiddenMarkerMovesTheClick_data()
@@ -541,7 +368,7 @@ void TestOutlineView::drops()
     f.view.setShouldCollapseAutoExpandedItemsForDeposits(collapseForDeposits);
     f.view.setShouldCollapseAutoExpandedItemsForFailedDeposits(collapseForFailedDeposits);
     f.view.expand(f.item(u"a"_s));  // opened by the user before the drag
-    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    std::unique_ptr<QMimeData> data(f.model.mimeData({f.item(u"b"_s)}));
     QMimeData refused;
     refused.setText(u"plain text"_s);
     const QPoint over = f.pointIn(u"a1"_s, 60);
@@ -569,7 +396,7 @@ void TestOutlineView::qtAutoExpansionIsFollowed()
     Fixture f;
     f.view.setDragDropMode(QAbstractItemView::DragDrop);
     f.view.setAutoExpandDelay(0);
-    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    std::unique_ptr<QMimeData> data(f.model.mimeData({f.item(u"b"_s)}));
     const QPoint over = f.pointIn(u"a"_s, 60);
     QCursor::setPos(f.view.viewport()->mapToGlobal(over));
     if (QCursor::pos() != f.view.viewport()->mapToGlobal(over))
@@ -627,27 +454,6 @@ void TestOutlineView::tile2LogsTheShownRows()
     QCOMPARE(f.view.numberOfRows(), rows);
 }
 
-void TestOutlineView::dragImageIsMadeInDragPrep()
-{
-    QStandardItemModel model;
-    fill(model);
-    DragOutlineView view;
-    view.setModel(&model);
-    auto *probe = new FlagProbe(&view);
-    view.setItemDelegate(probe);
-    view.resize(200, 150);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    view.selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    probe->flags.clear();
-
-    view.startDrag(Qt::CopyAction);
-
-    QVERIFY(!probe->flags.isEmpty());
-    QVERIFY(!probe->flags.contains(false));
-    QVERIFY(!view.inDragPrep());
-}
-
 void TestOutlineView::zapHidesTheMarkers()
 {
     QTreeView plain;
@@ -681,24 +487,16 @@ void TestOutlineView::zapHidesTheMarkers()
     QVERIFY(!inkIn(markerArea(u"a1"_s)));
 }
 
-void TestOutlineView::worksWithoutModelOrDelegate()
+// The keys, clicks and drag the table shares are checked without a model with it; these are
+// the outline's own.
+void TestOutlineView::worksWithoutModel()
 {
-    DragOutlineView view;
-    auto menu = std::make_unique<QMenu>();
-    view.setMenu(menu.get());
-    menu.reset();
-    QCOMPARE(view.menu(), nullptr);
+    ZARNOutlineView view;
     view.resize(120, 80);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
-    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_A})
-        QTest::keyClick(&view, key);
-    QTest::mousePress(view.viewport(), Qt::RightButton, {}, {5, 5});
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::MetaModifier, {5, 5});
     view.setShowsIndentationMarker(false);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {5, 5});
-    view.startDrag(Qt::CopyAction);
-    view.hideColumn(0);
     view.setEnabled(false);
     view.setEnabled(true);
     QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^numberOfRows:  0 \\([0-9a-f]+\\)$"_s));
