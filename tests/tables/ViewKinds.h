@@ -107,21 +107,9 @@ struct AnyView
         return table() ? call(*table()) : call(*outline());
     }
 
-    void setDelegate(RecordingDelegate *delegate) const
-    {
-        if (table())
-            table()->setDelegate(delegate);
-        else
-            outline()->setDelegate(delegate);
-    }
-    void setMenu(QMenu *menu) const
-    {
-        either([menu](auto &v) { v.setMenu(menu); });
-    }
-    QMenu *menu() const
-    {
-        return either([](auto &v) { return v.menu(); });
-    }
+    void setDelegate(RecordingDelegate *delegate) const { either([delegate](auto &v) { v.setDelegate(delegate); }); }
+    void setMenu(QMenu *menu) const { either([menu](auto &v) { v.setMenu(menu); }); }
+    bool inDragPrep() const { return either([](auto &v) { return v.inDragPrep(); }); }
     /// The row the open menu is for; -1 for none or below the rows.
     int contextMenuRow() const
     {
@@ -134,30 +122,6 @@ struct AnyView
             static_cast<OpenTable *>(table())->startDrag(actions);
         else
             static_cast<OpenOutline *>(outline())->startDrag(actions);
-    }
-    bool inDragPrep() const
-    {
-        return either([](auto &v) { return v.inDragPrep(); });
-    }
-    void hideColumn(int index) const
-    {
-        either([index](auto &v) { v.hideColumn(index); });
-    }
-    void hideColumnWithIdentifier(const QString &identifier) const
-    {
-        either([&](auto &v) { v.hideColumnWithIdentifier(identifier); });
-    }
-    void showColumnWithIdentifier(const QString &identifier) const
-    {
-        either([&](auto &v) { v.showColumnWithIdentifier(identifier); });
-    }
-    QList<ZARNTableColumn *> tableColumns() const
-    {
-        return either([](auto &v) { return v.tableColumns(); });
-    }
-    QList<ZARNTableColumn *> hiddenTableColumns() const
-    {
-        return either([](auto &v) { return v.hiddenTableColumns(); });
     }
 
     const Kind kind;
