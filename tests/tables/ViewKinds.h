@@ -9,6 +9,7 @@
 
 #include <QDrag>
 #include <QStandardItemModel>
+#include <QTest>
 
 #include <memory>
 #include <optional>
@@ -144,6 +145,30 @@ inline void selectRows(QAbstractItemView &view, const QList<int> &rows)
     view.selectionModel()->clearSelection();
     for (int row : rows)
         view.selectionModel()->select(view.model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+/// Shows \a view at \a size and waits until it is on screen.
+inline void showView(QAbstractItemView &view, QSize size)
+{
+    view.resize(size);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+}
+
+/// Shows \a view frameless on white, with the highlight colour (50, 100, 200), focused in an
+/// active window, so that selected rows draw as in the window a user works in.
+inline void showFocused(QAbstractItemView &view, QSize size)
+{
+    QPalette palette = view.palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(50, 100, 200));
+    view.setPalette(palette);
+    view.setFrameShape(QFrame::NoFrame);
+    view.resize(size);
+    view.show();
+    view.activateWindow();
+    view.setFocus();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
 }
 
 inline QPoint centreOfRow(const QAbstractItemView &view, int row)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableHeaderView.h>
-#include "tables/ZARNNSTableHeaderView_p.h"
-#include "tables/TableColumnList_p.h"
+
+#include "ViewKinds.h"
 
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -95,9 +95,7 @@ void TestHeaderView::doubleClick()
     view.setItemDelegate(&cell);
     for (int section = 0; section < widths.size(); ++section)
         header->resizeSection(section, widths.at(section));
-    view.resize(400, 200);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    viewkinds::showView(view, {400, 200});
     setUp(view, *header);
     QSignalSpy handleSpy(header, &QHeaderView::sectionHandleDoubleClicked);
     QSignalSpy sectionSpy(header, &QHeaderView::sectionDoubleClicked);

@@ -36,15 +36,6 @@ private:
     const AnyView &m_view;
 };
 
-/// A view of \a model, shown, \a size large.
-void show(const AnyView &view, QAbstractItemModel *model, QSize size = {300, 400})
-{
-    view->setModel(model);
-    view->resize(size);
-    view->show();
-    QVERIFY(QTest::qWaitForWindowExposed(view.view.get()));
-}
-
 /// Adds one row of the current data table per view kind, named after the kind.
 template<typename Add>
 void forEachKind(const char *name, Add add)
@@ -251,7 +242,8 @@ void TestItemViewBehaviour::contextClick()
     dataSource.responds = source == u"asks";
     dataSource.answer = answer;
     AnyView view(kind);
-    show(view, source == u"plain" ? static_cast<QAbstractItemModel *>(&plain) : &dataSource);
+    view->setModel(source == u"plain" ? static_cast<QAbstractItemModel *>(&plain) : &dataSource);
+    showView(*view.view, {300, 400});
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     QMenu menu;
     menu.addAction(u"Open"_s);
@@ -322,7 +314,8 @@ void TestItemViewBehaviour::dragPictureIsDrawnPlain()
     AnyView view(kind);
     RecordingCell cell(view);
     view->setItemDelegate(&cell);
-    show(view, &model);
+    view->setModel(&model);
+    showView(*view.view, {300, 400});
     selectRows(*view.view, selected);
     cell.paints.clear();
 
@@ -349,9 +342,7 @@ void TestItemViewBehaviour::worksWithoutModelOrMenu()
     view.setMenu(menu.get());
     menu.reset();
     QCOMPARE(view.either([](auto &v) { return v.menu(); }), nullptr);
-    view->resize(120, 80);
-    view->show();
-    QVERIFY(QTest::qWaitForWindowExposed(view.view.get()));
+    showView(*view.view, {120, 80});
     for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_A})
         QTest::keyClick(view.view.get(), key);
     QTest::mousePress(view->viewport(), Qt::RightButton, {}, QPoint(5, 5));

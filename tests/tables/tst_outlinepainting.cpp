@@ -3,6 +3,7 @@
 #include <Brixel/ZARNOutlineViewDelegate.h>
 
 #include <BrixelTest.h>
+#include "ViewKinds.h"
 
 #include <QHeaderView>
 #include <QStandardItemModel>
@@ -37,19 +38,10 @@ struct Outline
         a->appendRow(new QStandardItem(u"a2"_s));
         model.appendRow(a);
         model.appendRow(new QStandardItem(u"b"_s));
-        QPalette palette = view.palette();
-        palette.setColor(QPalette::Base, Qt::white);
-        palette.setColor(QPalette::Highlight, QColor(50, 100, 200));
-        view.setPalette(palette);
         view.setModel(&model);
         view.setDelegate(&delegate);
-        view.setFrameShape(QFrame::NoFrame);
         view.header()->hide();
-        view.resize(200, 120);
-        view.show();
-        view.activateWindow();
-        view.setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(&view));
+        viewkinds::showFocused(view, {200, 120});
     }
 
     QModelIndex item(const QString &name) const { return model.findItems(name, Qt::MatchRecursive).value(0)->index(); }

@@ -7,6 +7,7 @@
 #include <Brixel/ZARNTextFieldCell.h>
 
 #include "BrixelTest.h"
+#include "ViewKinds.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -63,9 +64,7 @@ struct Fixture
         view.header()->setStretchLastSection(false);
         view.header()->resizeSection(0, 30);
         view.header()->resizeSection(1, 80);
-        view.resize(200, 150);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        viewkinds::showView(view, {200, 150});
     }
 
     QModelIndex item(const QString &name) const
@@ -492,9 +491,7 @@ void TestOutlineView::zapHidesTheMarkers()
 void TestOutlineView::worksWithoutModel()
 {
     ZARNOutlineView view;
-    view.resize(120, 80);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    viewkinds::showView(view, {120, 80});
     view.setShowsIndentationMarker(false);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {5, 5});
     view.setEnabled(false);

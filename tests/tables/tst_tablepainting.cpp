@@ -5,6 +5,7 @@
 #include <Brixel/ZARNTableViewDelegate.h>
 
 #include <BrixelTest.h>
+#include "ViewKinds.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -19,8 +20,6 @@ using brixeltest::colorAt;
 using brixeltest::colorsClose;
 
 namespace {
-
-const QColor highlight(50, 100, 200);
 
 class ImageDelegate : public ZARNTableViewDelegate
 {
@@ -38,22 +37,13 @@ struct Table
         for (int row = 0; row < rows; ++row)
             for (int column = 0; column < 2; ++column)
                 model.setItem(row, column, new QStandardItem(u"r%1c%2"_s.arg(row).arg(column)));
-        QPalette palette = view.palette();
-        palette.setColor(QPalette::Highlight, highlight);
-        palette.setColor(QPalette::Base, Qt::white);
-        view.setPalette(palette);
         view.setModel(&model);
         view.setShowGrid(false);
-        view.setFrameShape(QFrame::NoFrame);
         view.verticalHeader()->hide();
         view.horizontalHeader()->hide();
         view.setColumnWidth(0, 90);
         view.setColumnWidth(1, 90);
-        view.resize(200, viewHeight);
-        view.show();
-        view.activateWindow();
-        view.setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(&view));
+        viewkinds::showFocused(view, {200, viewHeight});
     }
 
     QImage render() { return brixeltest::renderWidget(*view.viewport()); }
@@ -313,9 +303,7 @@ void TestTablePainting::gridMatchesQtTables()
         view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         for (int column = 0; column < 3; ++column)
             view->setColumnWidth(column, 90 - 10 * column);
-        view->resize(200, 100);
-        view->show();
-        QVERIFY(QTest::qWaitForWindowExposed(view));
+        viewkinds::showView(*view, {200, 100});
         view->horizontalScrollBar()->setValue(25);
         view->verticalScrollBar()->setValue(7);
     }

@@ -171,9 +171,7 @@ void TestTableView::editingMoves()
     TabDelegate delegate;
     view.setDelegate(&delegate);
     setup(view, model, delegate);
-    view.resize(400, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    viewkinds::showView(view, {400, 300});
 
     view.edit(model.index(start.x(), start.y()));
     QLineEdit *editor = editorAt(view, start.x(), start.y());
@@ -248,9 +246,7 @@ void TestTableView::dragPicture()
 void TestTableView::liveResize()
 {
     TestView view;
-    view.resize(200, 200);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    viewkinds::showView(view, {200, 200});
     QTRY_VERIFY(!view.inLiveResize());
     view.liveResizeEnds = 0;
 
