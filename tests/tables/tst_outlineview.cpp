@@ -113,10 +113,8 @@ private Q_SLOTS:
     void defaults();
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
-    void textCellsGreyWhileDisabled_data();
-    void textCellsGreyWhileDisabled();
-    void scrollBarsFollowTheEnabledState_data();
-    void scrollBarsFollowTheEnabledState();
+    void disablingGreysAndRestores_data();
+    void disablingGreysAndRestores();
     void hidingColumns_data();
     void hidingColumns();
     void drops_data();
@@ -146,7 +144,6 @@ void TestOutlineView::defaults_data()
         << ViewCheck([](auto &v) {
                return !v.shouldCollapseAutoExpandedItemsForDeposits() && v.shouldCollapseAutoExpandedItemsForFailedDeposits();
            });
-    QTest::newRow("gradient not made") << ViewCheck([](auto &v) { return v.lastHighlightGradientRowHeight() == -1; });
     QTest::newRow("takes focus while enabled") << ViewCheck([](auto &v) { return v.acceptsFirstResponder(); });
     QTest::newRow("text field cells") << ViewCheck([](auto &v) { return qobject_cast<ZARNTextFieldCell *>(v.itemDelegate()); });
     QTest::newRow("the library's header, as Qt sets up its own")
@@ -203,93 +200,71 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
     }
 }
 
-void TestOutlineView::textCellsGreyWhileDisabled_data()
+void TestOutlineView::disablingGreysAndRestores_data()
 {
     QTest::addColumn<QList<Action>>("steps");
     QTest::addColumn<Colors>("sharedCell");  // column "name": the view's own cell, colours unset
     QTest::addColumn<Colors>("ownCell");     // column "kind": red on yellow; "size" is no text cell
-
-    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
-    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
-    const Action repaintOwnCell = [](Fixture &f) {
-        auto *cell = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegateForColumn(2));
-        cell->setTextColor(Qt::blue);
-    };
-    const QColor grey = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
-    const QColor light = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
-    const Colors greyed{grey, light};
-    const Colors unset{QColor(), QColor()};
-    const Colors own{Qt::red, Qt::yellow};
-
-    QTest::newRow("disabling greys every text cell") << QList{disable} << greyed << greyed;
-    QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own;
-    QTest::newRow("disabling twice saves once") << QList{disable, repaintOwnCell, disable, enable} << unset << own;
-    QTest::newRow("a disabled parent greys too") << QList{Action([](Fixture &f) { f.view.parentWidget()->setEnabled(false); })}
-                                                 << greyed << greyed;
-    // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
-    QTest::newRow("hiding a column while disabled shifts the pairs")
-        << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset;
-}
-
-void TestOutlineView::textCellsGreyWhileDisabled()
-{
-    QFETCH(QList<Action>, steps);
-    QFETCH(Colors, sharedCell);
-    QFETCH(Colors, ownCell);
-    QWidget parent;
-    Fixture f;
-    f.view.setParent(&parent);
-    f.view.setItemDelegateForColumn(1, new QStyledItemDelegate(&f.view));
-    auto *cell = new ZARNTextFieldCell(&f.view);
-    cell->setTextColor(Qt::red);
-    cell->setBackgroundColor(Qt::yellow);
-    f.view.setItemDelegateForColumn(2, cell);
-    auto *shared = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegate());
-
-    for (const Action &step : steps)
-        step(f);
-
-    QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
-    QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
-}
-
-void TestOutlineView::scrollBarsFollowTheEnabledState_data()
-{
     QTest::addColumn<Qt::ScrollBarPolicy>("policy");
     QTest::addColumn<bool>("barEnabledBefore");
-    QTest::addColumn<QList<Action>>("steps");
     QTest::addColumn<bool>("barEnabledAfter");
 
     const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
     const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
     const Action disableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(false); };
     const Action enableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(true); };
-    const Action enableBar = [](Fixture &f) { f.view.verticalScrollBar()->setEnabled(true); };
+    const Action changeWhileDisabled = [](Fixture &f) {
+        qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegateForColumn(2))->setTextColor(Qt::blue);
+        f.view.verticalScrollBar()->setEnabled(true);
+    };
+    const QColor grey = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
+    const QColor light = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
+    const Colors greyed{grey, light};
+    const Colors unset{QColor(), QColor()};
+    const Colors own{Qt::red, Qt::yellow};
+    const auto asNeeded = Qt::ScrollBarAsNeeded;
 
-    QTest::newRow("enabled bar comes back enabled") << Qt::ScrollBarAsNeeded << true << QList{disable, enable} << true;
-    QTest::newRow("disabled bar stays disabled") << Qt::ScrollBarAsNeeded << false << QList{disable, enable} << false;
-    QTest::newRow("always-off bar is left alone") << Qt::ScrollBarAlwaysOff << true << QList{disable, enable} << true;
-    QTest::newRow("disabling twice saves once") << Qt::ScrollBarAlwaysOn << false << QList{disable, enableBar, disable, enable} << false;
-    QTest::newRow("a disabled ancestor counts") << Qt::ScrollBarAsNeeded << true << QList{disableParent, enableParent} << true;
-    QTest::newRow("bar is off while disabled") << Qt::ScrollBarAsNeeded << true << QList{disable} << false;
+    QTest::newRow("disabling greys every text cell, bar off") << QList{disable} << greyed << greyed << asNeeded << true << false;
+    QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own << asNeeded << true << true;
+    QTest::newRow("a disabled bar stays disabled") << QList{disable, enable} << unset << own << asNeeded << false << false;
+    QTest::newRow("an always-off bar is left alone")
+        << QList{disable, enable} << unset << own << Qt::ScrollBarAlwaysOff << true << true;
+    QTest::newRow("disabling twice saves once") << QList{disable, changeWhileDisabled, disable, enable} << unset << own
+                                                << Qt::ScrollBarAlwaysOn << false << false;
+    QTest::newRow("a disabled parent greys too") << QList{disableParent} << greyed << greyed << asNeeded << true << false;
+    QTest::newRow("and restores") << QList{disableParent, enableParent} << unset << own << asNeeded << true << true;
+    // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
+    QTest::newRow("hiding a column while disabled shifts the pairs")
+        << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset
+        << asNeeded << true << true;
 }
 
-void TestOutlineView::scrollBarsFollowTheEnabledState()
+void TestOutlineView::disablingGreysAndRestores()
 {
+    QFETCH(QList<Action>, steps);
+    QFETCH(Colors, sharedCell);
+    QFETCH(Colors, ownCell);
     QFETCH(Qt::ScrollBarPolicy, policy);
     QFETCH(bool, barEnabledBefore);
-    QFETCH(QList<Action>, steps);
     QFETCH(bool, barEnabledAfter);
     QWidget parent;
     Fixture f;
     f.view.setParent(&parent);
     parent.show();
+    f.view.setItemDelegateForColumn(1, new QStyledItemDelegate(&f.view));
+    auto *cell = new ZARNTextFieldCell(&f.view);
+    cell->setTextColor(Qt::red);
+    cell->setBackgroundColor(Qt::yellow);
+    f.view.setItemDelegateForColumn(2, cell);
+    auto *shared = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegate());
     f.view.setVerticalScrollBarPolicy(policy);
     f.view.verticalScrollBar()->setEnabled(barEnabledBefore);
 
     for (const Action &step : steps)
         step(f);
 
+    QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
+    QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
     QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
 }
 
