@@ -113,6 +113,8 @@ private Q_SLOTS:
     void defaults();
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
+    void highlightFollowsIndentation_data();
+    void highlightFollowsIndentation();
     void disablingGreysAndRestores_data();
     void disablingGreysAndRestores();
     void hidingColumns_data();
@@ -167,15 +169,16 @@ void TestOutlineView::hiddenMarkerMovesTheClick_data()
     QTest::addColumn<std::optional<bool>>("delegateShowsMarker");
     QTest::addColumn<int>("clickedColumn");
     QTest::addColumn<bool>("expanded");
+    QTest::addColumn<bool>("widened"); // a leaf's cell is drawn over the marker's place
 
     // Column 0 is 30 wide and its first 16 pixels hold the marker of "a"; column 1 follows.
     const std::optional<bool> noAnswer;
-    QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true;
-    QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false;
-    QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false;
-    QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false;
-    QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false;
-    QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true;
+    QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true << false;
+    QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false << false;
+    QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false << true;
+    QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false << true;
+    QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false << true;
+    QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true << false;
 }
 
 void TestOutlineView::hiddenMarkerMovesTheClick()
@@ -185,10 +188,19 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
     QFETCH(std::optional<bool>, delegateShowsMarker);
     QFETCH(int, clickedColumn);
     QFETCH(bool, expanded);
+    QFETCH(bool, widened);
     Fixture f;
     f.view.setShowsIndentationMarker(viewShowsMarker);
     f.delegate.showsMarker = delegateShowsMarker;
     QSignalSpy clicked(&f.view, &QAbstractItemView::clicked);
+    // "b" is a leaf: unless its cell is widened, nothing is drawn left of it.
+    const QRect cell = f.view.visualRect(f.item(u"b"_s));
+    const QImage image = brixeltest::renderWidget(*f.view.viewport());
+    const auto hasText = [&image](const QRect &area) {
+        return !brixeltest::pixelBounds(image.copy(area), [](const QColor &c) { return c.lightness() < 128; }).isNull();
+    };
+    QCOMPARE(hasText(QRect(cell.left() - 16, cell.top(), 16, cell.height())), widened);
+    QVERIFY(hasText(cell.adjusted(-16, 0, 0, 0)));
 
     QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.pointIn(u"a"_s, x));
 
@@ -198,6 +210,39 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
         QCOMPARE(clicked.first().first().toModelIndex().column(), clickedColumn);
         QCOMPARE(f.selectedNames(), QStringList{u"a"_s});
     }
+}
+
+void TestOutlineView::highlightFollowsIndentation_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("follows");
+    QTest::addColumn<int>("indent"); // where the shape starts, in indentation steps plus 16 for leaves
+
+    QTest::newRow("nested leaf, following") << u"a2"_s << true << 1;
+    QTest::newRow("nested leaf, not following") << u"a2"_s << false << 0;
+    QTest::newRow("top-level leaf") << u"b"_s << true << 0;
+}
+
+void TestOutlineView::highlightFollowsIndentation()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, follows);
+    QFETCH(int, indent);
+    Fixture f;
+    viewkinds::showFocused(f.view, f.view.size());
+    f.view.header()->resizeSection(0, 120);
+    f.view.expandAll();
+    f.view.setHighlightFollowsIndentation(follows);
+    f.view.selectionModel()->select(f.item(name), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const int left = indent == 0 ? 0 : indent * f.view.indentation() + 16;
+    const int y = f.view.visualRect(f.item(name)).center().y();
+    const QImage image = brixeltest::renderWidget(*f.view.viewport());
+
+    // Left of the shape is background; just inside it (past the 1-wide outline) is the fill.
+    const auto isWhite = [](const QColor &c) { return c.red() > 245 && c.green() > 245 && c.blue() > 245; };
+    if (left > 0)
+        QVERIFY(isWhite(brixeltest::colorAt(image, {left - 2, y})));
+    QVERIFY(!isWhite(brixeltest::colorAt(image, {left + 2, y})));
 }
 
 void TestOutlineView::disablingGreysAndRestores_data()
