@@ -34,9 +34,6 @@ struct Table
     explicit Table(int rows, int viewHeight = 160)
         : model(rows, 2)
     {
-        for (int row = 0; row < rows; ++row)
-            for (int column = 0; column < 2; ++column)
-                model.setItem(row, column, new QStandardItem(u"r%1c%2"_s.arg(row).arg(column)));
         view.setModel(&model);
         view.setShowGrid(false);
         view.verticalHeader()->hide();
@@ -64,7 +61,7 @@ struct Table
         QCoreApplication::sendEvent(view.viewport(), &event);
     }
 
-    QStandardItemModel model;
+    viewkinds::DataSourceModel model;
     ZARNTableView view;
 };
 

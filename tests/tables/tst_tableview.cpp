@@ -4,6 +4,7 @@
 #include <Brixel/ZARNTableView.h>
 #include <Brixel/ZARNTableViewDelegate.h>
 #include <Brixel/ZARNTextFieldCell.h>
+#include "tables/EditingMoves_p.h"
 
 #include "BrixelTest.h"
 #include "ViewKinds.h"
@@ -12,8 +13,14 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include <climits>
+
 using namespace Qt::StringLiterals;
 using namespace viewkinds;
+using BrixelPrivate::Cell;
+using BrixelPrivate::TextMovement;
+
+Q_DECLARE_METATYPE(BrixelPrivate::TextMovement)
 
 namespace {
 
@@ -91,6 +98,8 @@ class TestTableView : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void nextEditableCell_data();
+    void nextEditableCell();
     void editingMoves_data();
     void editingMoves();
     void dragPicture_data();
@@ -99,6 +108,48 @@ private Q_SLOTS:
     void lookChangesRepaint_data();
     void lookChangesRepaint();
 };
+
+void TestTableView::nextEditableCell_data()
+{
+    QTest::addColumn<TextMovement>("movement");
+    QTest::addColumn<Cell>("from");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QList<Cell>>("editable");
+    QTest::addColumn<QString>("expected");
+
+    // Tables of three columns.
+    const auto Tab = TextMovement::Tab, Backtab = TextMovement::Backtab, Return = TextMovement::Return;
+    const QList<Cell> scattered{{0, 2}, {1, 0}, {2, 1}, {3, 2}};
+    QTest::newRow("tab: first editable cell after") << Tab << Cell{1, 0} << 4 << scattered << "(2, 1)";
+    QTest::newRow("tab: wraps to the first") << Tab << Cell{3, 2} << 4 << scattered << "(0, 2)";
+    QTest::newRow("backtab: first editable cell before") << Backtab << Cell{2, 1} << 4 << scattered << "(1, 0)";
+    QTest::newRow("backtab: wraps to the last") << Backtab << Cell{0, 2} << 4 << scattered << "(3, 2)";
+    QTest::newRow("return: wraps in the column") << Return << Cell{3, 2} << 4 << scattered << "(0, 2)";
+    QTest::newRow("tab: only editable cell returns to itself") << Tab << Cell{2, 1} << 4 << QList<Cell>{{2, 1}} << "(2, 1)";
+    QTest::newRow("return: only editable cell returns to itself") << Return << Cell{2, 1} << 4 << QList<Cell>{{2, 1}} << "(2, 1)";
+    QTest::newRow("nothing editable") << Tab << Cell{2, 1} << 4 << QList<Cell>{} << "none";
+    QTest::newRow("empty table") << Tab << Cell{0, 0} << 0 << scattered << "none";
+    QTest::newRow("negative rows") << Backtab << Cell{0, 0} << -4 << scattered << "none";
+    // The editor's row may be gone: a hit there answers "nowhere".
+    QTest::newRow("hit in a removed row") << Tab << Cell{7, 0} << 4 << QList<Cell>{{7, 1}, {1, 0}} << "none";
+    QTest::newRow("tab: extreme indexes") << Tab << Cell{INT_MAX, INT_MAX} << 4 << scattered << "(0, 2)";
+    QTest::newRow("backtab: extreme indexes") << Backtab << Cell{INT_MIN, INT_MIN} << 4 << scattered << "(3, 2)";
+    QTest::newRow("return: extreme row") << Return << Cell{INT_MAX, 1} << 4 << scattered << "(2, 1)";
+    QTest::newRow("return: column out of range") << Return << Cell{1, 3} << 4 << scattered << "none";
+}
+
+void TestTableView::nextEditableCell()
+{
+    QFETCH(TextMovement, movement);
+    QFETCH(Cell, from);
+    QFETCH(int, rows);
+    QFETCH(QList<Cell>, editable);
+    QFETCH(QString, expected);
+
+    const auto isEditable = [&editable](Cell cell) { return editable.contains(cell); };
+    const std::optional<Cell> cell = BrixelPrivate::nextEditableCell(movement, from, rows, 3, isEditable);
+    QCOMPARE(cell ? cellName(cell->row, cell->column) : u"none"_s, expected);
+}
 
 void TestTableView::editingMoves_data()
 {
