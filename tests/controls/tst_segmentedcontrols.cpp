@@ -226,8 +226,7 @@ void TestSegmentedControls::imageButton()
     QCOMPARE(ZARNSegmentedControlButton::imageOrigin(bounds, imageSize), origin);
 
     ZARNSegmentedControlButton button;
-    QImage red(imageSize, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
+    QImage red = brixeltest::filledImage(imageSize, Qt::red);
     button.setImage(red);
     button.resize(bounds);
     const QImage shown = brixeltest::renderWidget(button);

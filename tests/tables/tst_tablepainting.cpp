@@ -133,8 +133,7 @@ void TestTablePainting::selectedRow()
 
     Table table(3);
     ImageDelegate delegate;
-    QImage red(4, 4, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
+    QImage red = brixeltest::filledImage({4, 4}, Qt::red);
     if (customImage)
         delegate.image = red;
     table.view.setDelegate(&delegate);
