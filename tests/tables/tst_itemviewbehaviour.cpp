@@ -132,6 +132,7 @@ void TestItemViewBehaviour::keys_data()
     row("backspace", Qt::Key_Backspace, 1, true, deletes, 1);
     row("delete", Qt::Key_Delete, 1, true, deletes, 1);
     row("return without a delegate", Qt::Key_Return, 1, false, returns, 1);
+    row("backspace without a delegate", Qt::Key_Backspace, 1, false, deletes, 1);
     row("down", Qt::Key_Down, 1, true, changing, 2);
     row("up", Qt::Key_Up, 1, true, changing, 0);
     row("up on the first row", Qt::Key_Up, 0, true, none, 0);
