@@ -280,8 +280,7 @@ void TestChiseledTextField::activityFollowsWindowOrApplication()
 
 void TestChiseledTextField::attachmentDrawnOnce()
 {
-    QImage picture(10, 8, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(Qt::red);
+    QImage picture = brixeltest::filledImage({10, 8}, Qt::red);
     ZARNAttributedString value(u"\uFFFCAB"_s, {{ZARNFontAttributeName, QFont(u"DejaVu Sans"_s, 18)}});
     value.addAttribute(ZARNAttachmentAttributeName, picture, {0, 1});
 

@@ -237,8 +237,7 @@ void TestPopUpButtons::appearances()
     const QImage idle = button.image();
     QVERIFY(!isCapsule(idle));
     // The button shows its idle appearance as it is.
-    QImage shown(button.size(), QImage::Format_ARGB32_Premultiplied);
-    shown.fill(Qt::transparent);
+    QImage shown = brixeltest::filledImage(button.size(), Qt::transparent);
     button.render(&shown, {}, {}, QWidget::DrawChildren);
     QCOMPARE(shown, idle);
     QVERIFY(isCapsule(button.ConstructMouseOverImage()));
@@ -261,8 +260,7 @@ void TestPopUpButtons::appearances()
 
     // The kept down-arrow images are never drawn.
     button.activate();
-    QImage red(7, 4, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
+    QImage red = brixeltest::filledImage({7, 4}, Qt::red);
     button.setDownArrow_Idle_Image(red);
     QCOMPARE(button.downArrow_Idle_Image(), red);
     QCOMPARE(button.ConstructIdleImage(), idle);

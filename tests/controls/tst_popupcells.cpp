@@ -17,8 +17,7 @@ namespace {
 
 QImage paintCell(const QStyledItemDelegate &cell, const QModelIndex &index, QSize size, bool selected = false)
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
+    QImage image = brixeltest::filledImage(size, Qt::white);
     QPainter painter(&image);
     QStyleOptionViewItem option;
     option.rect = QRect(QPoint(0, 0), size);

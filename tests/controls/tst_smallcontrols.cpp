@@ -64,8 +64,7 @@ void TestSmallControls::attachmentOffset()
     QFETCH(bool, centre);
     QFETCH(QPoint, moved);
     brixeltest::useTestFont();
-    QImage red(8, 8, QImage::Format_ARGB32_Premultiplied);
-    red.fill(Qt::red);
+    QImage red = brixeltest::filledImage({8, 8}, Qt::red);
     QTextDocument document;
     auto *cell = new ZARNTextAttachmentCell(red, &document);
     cell->zarnSetCellBaselineOffset(offset);
@@ -80,8 +79,7 @@ void TestSmallControls::attachmentOffset()
 
     const auto redBounds = [&](const QPointF &at) {
         cell->zarnSetCellBaselineOffset(at);
-        QImage image(120, 40, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::white);
+        QImage image = brixeltest::filledImage({120, 40}, Qt::white);
         QPainter painter(&image);
         document.drawContents(&painter);
         painter.end();

@@ -37,8 +37,7 @@ qreal lineHeight(const QFont &font = bigFont())
 template<typename Draw>
 QImage render(Draw &&draw, QSize size = {400, 200})
 {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
+    QImage image = brixeltest::filledImage(size, Qt::white);
     QPainter painter(&image);
     draw(painter);
     return image;

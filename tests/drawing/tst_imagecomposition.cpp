@@ -11,22 +11,17 @@
 using Compose = std::function<QImage()>;
 Q_DECLARE_METATYPE(Compose)
 
+using brixeltest::filledImage;
+
 namespace {
 
 // Nine solid colours, one per third of the frame, indexed row by row from the visual top.
 const QColor cellColours[9] = {Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow,
                                Qt::darkRed, Qt::darkGreen, Qt::darkBlue};
 
-QImage solid(QSize size, const QColor &colour)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(colour);
-    return image;
-}
-
 QImage nineCellFrame(QSize size)
 {
-    QImage frame = solid(size, Qt::transparent);
+    QImage frame = filledImage(size, Qt::transparent);
     QPainter painter(&frame);
     const QSize cell = size / 3;
     for (int index = 0; index < 9; ++index)
@@ -37,7 +32,7 @@ QImage nineCellFrame(QSize size)
 // Only the top third painted.
 QImage redTopThird()
 {
-    QImage frame = solid({30, 30}, Qt::transparent);
+    QImage frame = filledImage({30, 30}, Qt::transparent);
     QPainter(&frame).fillRect(0, 0, 30, 10, Qt::red);
     return frame;
 }
@@ -70,12 +65,12 @@ void TestImageComposition::pixels_data()
     QTest::addColumn<QColor>("expected");   // invalid: the result is null
 
     const auto nine = [](QSize frame, QSize target) {
-        return Compose([=] { return Brixel::ZARNStretchedImageOverImage(nineCellFrame(frame), solid(target, Qt::white)); });
+        return Compose([=] { return Brixel::ZARNStretchedImageOverImage(nineCellFrame(frame), filledImage(target, Qt::white)); });
     };
     const auto badge = [](int alignment) {
-        return Compose([=] { return Brixel::badgedImage(solid({30, 30}, Qt::white), solid({10, 10}, Qt::red), alignment); });
+        return Compose([=] { return Brixel::badgedImage(filledImage({30, 30}, Qt::white), filledImage({10, 10}, Qt::red), alignment); });
     };
-    const QImage blue = solid({40, 20}, Qt::blue);
+    const QImage blue = filledImage({40, 20}, Qt::blue);
     const QColor white = Qt::white, red = Qt::red, null;
 
     // 30 x 30 on 100 x 100: 10-pixel corners, 80-pixel stretched middles.
@@ -92,32 +87,32 @@ void TestImageComposition::pixels_data()
     // the frame becomes 200 x 20, the 66-pixel corners overlap and the middle column
     // (-32 wide) draws nothing; the right-hand corner, drawn last, covers the overlap.
     QTest::newRow("nine: overlapping corners") << nine({300, 30}, {100, 20}) << QPoint(40, 2) << cellColours[2];
-    QTest::newRow("nine: null frame") << Compose([] { return Brixel::ZARNStretchedImageOverImage({}, solid({4, 4}, Qt::red)); }) << QPoint() << null;
+    QTest::newRow("nine: null frame") << Compose([] { return Brixel::ZARNStretchedImageOverImage({}, filledImage({4, 4}, Qt::red)); }) << QPoint() << null;
 
-    const Compose over([] { return Brixel::ZARNStretchImageOverImage(redTopThird(), solid({60, 60}, Qt::blue)); });
+    const Compose over([] { return Brixel::ZARNStretchImageOverImage(redTopThird(), filledImage({60, 60}, Qt::blue)); });
     QTest::newRow("over: frame") << over << QPoint(30, 5) << red;
     QTest::newRow("over: target underneath") << over << QPoint(30, 40) << QColor(Qt::blue);
-    QTest::newRow("over: null target") << Compose([] { return Brixel::ZARNStretchImageOverImage(solid({4, 4}, Qt::red), {}); }) << QPoint() << null;
+    QTest::newRow("over: null target") << Compose([] { return Brixel::ZARNStretchImageOverImage(filledImage({4, 4}, Qt::red), {}); }) << QPoint() << null;
 
     QTest::newRow("badge: top left") << badge(0) << QPoint(9, 9) << red;
     QTest::newRow("badge: unscaled") << badge(0) << QPoint(10, 10) << white;
     QTest::newRow("badge: centre") << badge(4) << QPoint(10, 10) << red;
     QTest::newRow("badge: bottom right") << badge(8) << QPoint(29, 29) << red;
     QTest::newRow("badge: unknown code at the origin") << badge(12) << QPoint(0, 29) << red;
-    QTest::newRow("badge: null badge copies") << Compose([] { return Brixel::badgedImage(solid({3, 3}, Qt::blue), {}, 0); })
+    QTest::newRow("badge: null badge copies") << Compose([] { return Brixel::badgedImage(filledImage({3, 3}, Qt::blue), {}, 0); })
                                              << QPoint(1, 1) << QColor(Qt::blue);
-    QTest::newRow("badge: null image") << Compose([] { return Brixel::badgedImage({}, solid({2, 2}, Qt::red), 0); }) << QPoint() << null;
+    QTest::newRow("badge: null image") << Compose([] { return Brixel::badgedImage({}, filledImage({2, 2}, Qt::red), 0); }) << QPoint() << null;
 
     const Compose recoloured([] { return Brixel::ReplaceColorsInImage(threeCoverages(), QColor(0, 0, 255)); });
     QTest::newRow("recolour: opaque") << recoloured << QPoint(0, 0) << QColor(0, 0, 255);
     QTest::newRow("recolour: keeps partial alpha") << recoloured << QPoint(1, 0) << QColor(0, 0, 255, 128);
     QTest::newRow("recolour: keeps transparency") << recoloured << QPoint(2, 0) << QColor(Qt::transparent);
     QTest::newRow("recolour: null image") << Compose([] { return Brixel::ReplaceColorsInImage({}, Qt::red); }) << QPoint() << null;
-    QTest::newRow("recolour: invalid colour") << Compose([] { return Brixel::ReplaceColorsInImage(solid({2, 2}, Qt::red), QColor()); })
+    QTest::newRow("recolour: invalid colour") << Compose([] { return Brixel::ReplaceColorsInImage(filledImage({2, 2}, Qt::red), QColor()); })
                                               << QPoint() << null;
 
     // A 10 x 10 image is enlarged to 20 x 20 and centred on 40 x 20: columns 10 to 29.
-    const Compose stacked([=] { return Brixel::imageByCompositingImages({blue, QImage(), solid({10, 10}, red)}); });
+    const Compose stacked([=] { return Brixel::imageByCompositingImages({blue, QImage(), filledImage({10, 10}, red)}); });
     QTest::newRow("stack: canvas left") << stacked << QPoint(9, 10) << QColor(Qt::blue);
     QTest::newRow("stack: enlarged from") << stacked << QPoint(10, 0) << red;
     QTest::newRow("stack: enlarged to") << stacked << QPoint(29, 19) << red;
@@ -141,7 +136,7 @@ void TestImageComposition::pixels()
 void TestImageComposition::imageNamedLooksInTheRegisteredPrefix()
 {
     QTemporaryDir folder;
-    QVERIFY(solid({4, 4}, Qt::green).save(folder.filePath(QStringLiteral("leaf.png"))));
+    QVERIFY(filledImage({4, 4}, Qt::green).save(folder.filePath(QStringLiteral("leaf.png"))));
     const QString owner = QStringLiteral("TestOwner");
     QVERIFY(Brixel::imageNamed(QStringLiteral("leaf"), owner).isNull());
     Brixel::ZARNSetResourcePrefixForClass(owner, folder.path());

@@ -17,13 +17,19 @@ void useTestFont()
     QApplication::setFont(font);
 }
 
+QImage filledImage(QSize size, const QColor &color)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
 QImage renderWidget(QWidget &widget)
 {
     widget.ensurePolished();
     if (auto *layout = widget.layout())
         layout->activate();
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = filledImage(widget.size(), Qt::transparent);
     widget.render(&image);
     return image;
 }
@@ -31,8 +37,7 @@ QImage renderWidget(QWidget &widget)
 QImage renderOverWhite(QWidget &widget)
 {
     widget.ensurePolished();
-    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
+    QImage image = filledImage(widget.size(), Qt::white);
     widget.render(&image, {}, {}, QWidget::DrawChildren);
     return image;
 }

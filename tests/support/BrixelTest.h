@@ -19,6 +19,9 @@ namespace brixeltest {
 /// Gives the application the DejaVu Sans font the tests' text measurements assume.
 void useTestFont();
 
+/// An ARGB32 premultiplied image of \a size filled with \a color.
+QImage filledImage(QSize size, const QColor &color);
+
 /// Lays out and renders \a widget (and its children) into an ARGB32 premultiplied image of
 /// the widget's size, the way it would appear on screen.
 QImage renderWidget(QWidget &widget);

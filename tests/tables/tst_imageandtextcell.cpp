@@ -13,19 +13,14 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+using brixeltest::filledImage;
 
-QImage solidImage(QSize size, const QColor &color)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
+namespace {
 
 // Red above, blue below: shows whether an image is drawn upright.
 QImage twoBandImage(QSize size)
 {
-    QImage image = solidImage(size, Qt::blue);
+    QImage image = filledImage(size, Qt::blue);
     QPainter(&image).fillRect(0, 0, size.width(), size.height() / 2, Qt::red);
     return image;
 }
@@ -91,7 +86,7 @@ void TestImageAndTextCell::imageAndTitleRects()
 
     ZARNImageAndTextCell cell;
     if (hasImage)
-        cell.setImage(solidImage({4, 4}, Qt::red));
+        cell.setImage(filledImage({4, 4}, Qt::red));
     cell.setImageSize(imageSize);
     QCOMPARE(cell.imageRectForBounds(bounds), imageRect);
     QCOMPARE(cell.titleRectForBounds(bounds), titleRect);
@@ -123,7 +118,7 @@ void TestImageAndTextCell::drawsTheImageArea()
     cell.setImage(twoBandImage({8, 4}));
     cell.setImageSize({16, 16});
     cell.setImageScaling(scaling);
-    QImage canvas = solidImage({120, 40}, Qt::white);
+    QImage canvas = filledImage({120, 40}, Qt::white);
     {
         QPainter painter(&canvas);
         cell.paint(&painter, viewOption({10, 10, 100, 20}), model.index(0, 0));
@@ -146,15 +141,15 @@ void TestImageAndTextCell::sizeAndEditorMakeRoomForTheImage_data()
     QTest::addColumn<int>("extraWidth");
     QTest::addColumn<int>("editorShift");
 
-    const QImage tenWide = solidImage({10, 6}, Qt::red);
-    QImage twentyWideHiDpi = solidImage({40, 12}, Qt::red);
+    const QImage tenWide = filledImage({10, 6}, Qt::red);
+    QImage twentyWideHiDpi = filledImage({40, 12}, Qt::red);
     twentyWideHiDpi.setDevicePixelRatio(2);
     QTest::newRow("no image") << QImage() << QVariant() << 4 << 3;
     QTest::newRow("the cell's image, own width") << tenWide << QVariant() << 14 << 13;
     QTest::newRow("own width in points") << twentyWideHiDpi << QVariant() << 24 << 23;
-    QTest::newRow("the model's image wins") << tenWide << QVariant(solidImage({30, 6}, Qt::blue)) << 34 << 33;
+    QTest::newRow("the model's image wins") << tenWide << QVariant(filledImage({30, 6}, Qt::blue)) << 34 << 33;
     QTest::newRow("a pixmap from the model")
-        << QImage() << QVariant(QPixmap::fromImage(solidImage({12, 6}, Qt::blue))) << 16 << 15;
+        << QImage() << QVariant(QPixmap::fromImage(filledImage({12, 6}, Qt::blue))) << 16 << 15;
 }
 
 void TestImageAndTextCell::sizeAndEditorMakeRoomForTheImage()
@@ -197,7 +192,7 @@ void TestImageAndTextCell::withoutAnImageDrawsAsATextCell()
         each->setDrawsBackground(true);
         each->setBackgroundColor(Qt::yellow);
     }
-    QImage drawn = solidImage({150, 30}, Qt::white), expected = drawn;
+    QImage drawn = filledImage({150, 30}, Qt::white), expected = drawn;
     {
         QPainter painter(&drawn);
         cell.paint(&painter, viewOption({5, 5, 140, 20}), model.index(0, 0));
@@ -217,7 +212,7 @@ void TestImageAndTextCell::defaultsAndCopy()
     QCOMPARE(cell.imageScaling(), 0);
     QVERIFY(cell.image().isNull());
 
-    const QImage image = solidImage({5, 5}, Qt::red);
+    const QImage image = filledImage({5, 5}, Qt::red);
     cell.setImage(image);
     cell.setImageScaling(5);
     cell.setImageSize({7, 9});
@@ -230,7 +225,7 @@ void TestImageAndTextCell::defaultsAndCopy()
     QCOMPARE(copy->imageSize(), (ZARNSize{7, 9}));
     QCOMPARE(copy->textColor(), QColor(Qt::green));
     // Setting the image leaves the layout size alone.
-    copy->setImage(solidImage({50, 50}, Qt::blue));
+    copy->setImage(filledImage({50, 50}, Qt::blue));
     QCOMPARE(copy->imageSize(), (ZARNSize{7, 9}));
 }
 

@@ -4,14 +4,13 @@
 #include <Brixel/ZARNOutlineView.h>
 #include <Brixel/ZARNOutlineViewDelegate.h>
 #include <Brixel/ZARNTableColumn.h>
-#include <Brixel/ZARNTableViewDataSource.h>
 #include <Brixel/ZARNTextFieldCell.h>
 
 #include "BrixelTest.h"
+#include "ViewKinds.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
-#include <QMenu>
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QScrollBar>
@@ -24,35 +23,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Records what the view tells its delegate and answers the marker question when told to.
-class RecordingDelegate : public ZARNOutlineViewDelegate
+// Answers the marker question when told to.
+class MarkerDelegate : public ZARNOutlineViewDelegate
 {
 public:
-    QStringList calls;
-    QList<ZARNNotification> notifications;
-    QList<QRect> drawnRects;
-    std::optional<bool> showsMarker;
-
-    void outlineViewReturnKey(ZARNOutlineView *) override { calls << u"return"_s; }
-    void outlineViewDeleteBackward(ZARNOutlineView *) override { calls << u"delete"_s; }
-    void outlineViewSelectionIsChanging(const ZARNNotification &notification) override
-    {
-        calls << u"changing"_s;
-        notifications << notification;
-    }
     std::optional<bool> outlineViewShouldShowIndentationMarkerForItem(ZARNOutlineView *, const QModelIndex &) override
     {
         return showsMarker;
     }
-    void tableViewWillDrawRect(ZARNOutlineView *, const QRect &rect) override { drawnRects << rect; }
-};
-
-// A model that would refuse every right-click selection if it were asked.
-class RefusingModel : public QStandardItemModel, public ZARNTableViewDataSource
-{
-public:
-    bool respondsToTableviewShouldSelectRow() const override { return true; }
-    std::optional<bool> tableViewShouldSelectRow(ZARNTableView *, int) override { return false; }
+    std::optional<bool> showsMarker;
 };
 
 // Rows "a" (children "a1" with child "a1x", and "a2"), "b", "c"; columns "name", "size", "kind".
@@ -75,25 +54,22 @@ void fill(QStandardItemModel &model)
 // A shown outline over the model above, with fixed section widths for click positions.
 struct Fixture
 {
-    explicit Fixture(QStandardItemModel *customModel = nullptr)
-        : model(customModel ? customModel : &ownModel)
+    Fixture()
     {
-        fill(*model);
-        view.setModel(model);
+        fill(model);
+        view.setModel(&model);
         view.setDelegate(&delegate);
         view.setIndentation(16);
         view.setSelectionMode(QAbstractItemView::ExtendedSelection);
         view.header()->setStretchLastSection(false);
         view.header()->resizeSection(0, 30);
         view.header()->resizeSection(1, 80);
-        view.resize(200, 150);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        viewkinds::showView(view, {200, 150});
     }
 
     QModelIndex item(const QString &name) const
     {
-        return model->match(model->index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchRecursive | Qt::MatchExactly).value(0);
+        return model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchRecursive | Qt::MatchExactly).value(0);
     }
 
     QPoint pointIn(const QString &name, int x) const { return {x, view.visualRect(item(name)).center().y()}; }
@@ -115,43 +91,9 @@ struct Fixture
         return names;
     }
 
-    void select(const QStringList &names)
-    {
-        view.selectionModel()->clearSelection();
-        for (const QString &name : names)
-            view.selectionModel()->select(item(name), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
-
-    QStandardItemModel ownModel;
-    QStandardItemModel *model;
-    RecordingDelegate delegate;
+    QStandardItemModel model;
+    MarkerDelegate delegate;
     ZARNOutlineView view;
-};
-
-class DragOutlineView : public ZARNOutlineView
-{
-public:
-    using ZARNOutlineView::startDrag;
-};
-
-// Notes whether the view was making a drag image each time a cell was painted.
-class FlagProbe : public QStyledItemDelegate
-{
-public:
-    explicit FlagProbe(ZARNOutlineView *view)
-        : QStyledItemDelegate(view)
-        , m_view(view)
-    {
-    }
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        flags << m_view->inDragPrep();
-        QStyledItemDelegate::paint(painter, option, index);
-    }
-    mutable QList<bool> flags;
-
-private:
-    ZARNOutlineView *m_view;
 };
 
 } // namespace
@@ -169,16 +111,12 @@ private Q_SLOTS:
     void initTestCase();
     void defaults_data();
     void defaults();
-    void keys_data();
-    void keys();
-    void clicks_data();
-    void clicks();
     void hiddenMarkerMovesTheClick_data();
     void hiddenMarkerMovesTheClick();
-    void textCellsGreyWhileDisabled_data();
-    void textCellsGreyWhileDisabled();
-    void scrollBarsFollowTheEnabledState_data();
-    void scrollBarsFollowTheEnabledState();
+    void highlightFollowsIndentation_data();
+    void highlightFollowsIndentation();
+    void disablingGreysAndRestores_data();
+    void disablingGreysAndRestores();
     void hidingColumns_data();
     void hidingColumns();
     void drops_data();
@@ -187,9 +125,8 @@ private Q_SLOTS:
     void editorDrawsNoBackground();
     void tile2LogsTheShownRows_data();
     void tile2LogsTheShownRows();
-    void dragImageIsMadeInDragPrep();
     void zapHidesTheMarkers();
-    void worksWithoutModelOrDelegate();
+    void worksWithoutModel();
 };
 
 void TestOutlineView::initTestCase()
@@ -209,7 +146,6 @@ void TestOutlineView::defaults_data()
         << ViewCheck([](auto &v) {
                return !v.shouldCollapseAutoExpandedItemsForDeposits() && v.shouldCollapseAutoExpandedItemsForFailedDeposits();
            });
-    QTest::newRow("gradient not made") << ViewCheck([](auto &v) { return v.lastHighlightGradientRowHeight() == -1; });
     QTest::newRow("takes focus while enabled") << ViewCheck([](auto &v) { return v.acceptsFirstResponder(); });
     QTest::newRow("text field cells") << ViewCheck([](auto &v) { return qobject_cast<ZARNTextFieldCell *>(v.itemDelegate()); });
     QTest::newRow("the library's header, as Qt sets up its own")
@@ -226,117 +162,6 @@ void TestOutlineView::defaults()
     QVERIFY(check(view));
 }
 
-void TestOutlineView::keys_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QStringList>("calls");
-    QTest::addColumn<QStringList>("selected");
-    QTest::addColumn<bool>("aExpanded");
-
-    const QStringList none;
-    QTest::newRow("Return") << u"b"_s << int(Qt::Key_Return) << QStringList{u"return"_s} << QStringList{u"b"_s} << false;
-    QTest::newRow("Backspace") << u"b"_s << int(Qt::Key_Backspace) << QStringList{u"delete"_s} << QStringList{u"b"_s} << false;
-    QTest::newRow("Down moves the row") << u"b"_s << int(Qt::Key_Down) << QStringList{u"changing"_s} << QStringList{u"c"_s} << false;
-    QTest::newRow("Right expands as Qt does") << u"a"_s << int(Qt::Key_Right) << none << QStringList{u"a"_s} << true;
-}
-
-void TestOutlineView::keys()
-{
-    QFETCH(QString, start);
-    QFETCH(int, key);
-    QFETCH(QStringList, calls);
-    QFETCH(QStringList, selected);
-    QFETCH(bool, aExpanded);
-    Fixture f;
-    f.view.setCurrentIndex(f.item(start));
-    f.view.setFocus();
-
-    QTest::keyClick(&f.view, Qt::Key(key));
-
-    QCOMPARE(f.delegate.calls, calls);
-    QCOMPARE(f.selectedNames(), selected);
-    QCOMPARE(f.view.isExpanded(f.item(u"a"_s)), aExpanded);
-    for (const ZARNNotification &notification : std::as_const(f.delegate.notifications)) {
-        QCOMPARE(notification.name, QString(NSTableViewSelectionIsChangingNotification));
-        QCOMPARE(notification.object, &f.view);
-        QVERIFY(notification.userInfo.isEmpty());
-    }
-}
-
-void TestOutlineView::clicks_data()
-{
-    QTest::addColumn<QStringList>("before");
-    QTest::addColumn<bool>("withMenu");
-    QTest::addColumn<Action>("click");
-    QTest::addColumn<QStringList>("after");
-    QTest::addColumn<QString>("menuRow");  // empty: no menu shown; "-": shown for no row
-
-    const auto right = [](const QString &name) {
-        return Action([name](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, f.pointIn(name, 60)); });
-    };
-    const auto control = [](const QString &name) {
-        return Action([name](Fixture &f) { QTest::mouseClick(f.view.viewport(), Qt::LeftButton, Qt::MetaModifier, f.pointIn(name, 60)); });
-    };
-    const auto doubleClick = [](Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-        return Action([=](Fixture &f) {
-            const QPoint at = f.pointIn(u"c"_s, 60);
-            QMouseEvent event(QEvent::MouseButtonDblClick, at, f.view.viewport()->mapToGlobal(at), button, button, modifiers);
-            QApplication::sendEvent(f.view.viewport(), &event);
-        });
-    };
-    const auto menuEvent = [](QContextMenuEvent::Reason reason) {
-        return Action([reason](Fixture &f) {
-            f.view.selectionModel()->setCurrentIndex(f.item(u"b"_s), QItemSelectionModel::NoUpdate);
-            const QPoint at = f.pointIn(u"c"_s, 60);
-            QContextMenuEvent event(reason, at, f.view.viewport()->mapToGlobal(at));
-            QApplication::sendEvent(f.view.viewport(), &event);
-        });
-    };
-    const QStringList ab{u"a"_s, u"b"_s};
-    const QStringList c{u"c"_s};
-
-    // The model would refuse every right-click selection: the outline never asks it.
-    QTest::newRow("right press selects an unselected row alone") << ab << true << right(u"c"_s) << c << u"c"_s;
-    QTest::newRow("right press keeps a selection it falls in") << ab << true << right(u"b"_s) << ab << u"b"_s;
-    QTest::newRow("right press without a menu") << ab << false << right(u"c"_s) << c << QString();
-    QTest::newRow("right press below the rows")
-        << ab << true << Action([](Fixture &f) { QTest::mousePress(f.view.viewport(), Qt::RightButton, {}, {60, 140}); })
-        << ab << u"-"_s;
-    QTest::newRow("menu key opens at the current row") << ab << true << menuEvent(QContextMenuEvent::Keyboard) << ab << u"b"_s;
-    QTest::newRow("mouse menu event leaves it to the press") << ab << true << menuEvent(QContextMenuEvent::Mouse) << ab << QString();
-    QTest::newRow("control-click selects, then opens the menu") << ab << true << control(u"c"_s) << c << u"c"_s;
-    QTest::newRow("control double click only opens the menu")
-        << ab << true << doubleClick(Qt::LeftButton, Qt::MetaModifier) << ab << u"c"_s;
-}
-
-void TestOutlineView::clicks()
-{
-    QFETCH(QStringList, before);
-    QFETCH(bool, withMenu);
-    QFETCH(Action, click);
-    QFETCH(QStringList, after);
-    QFETCH(QString, menuRow);
-    RefusingModel model;
-    Fixture f(&model);
-    QMenu menu;
-    menu.addAction(u"Open"_s);
-    QSignalSpy aboutToShow(&menu, &QMenu::aboutToShow);
-    if (withMenu)
-        f.view.setMenu(&menu);
-    f.select(before);
-
-    click(f);
-
-    QCOMPARE(f.selectedNames(), after);
-    QCOMPARE(aboutToShow.count(), menuRow.isEmpty() ? 0 : 1);
-    QCOMPARE(menu.isVisible(), !menuRow.isEmpty());
-    const QModelIndex expectedItem = menuRow.isEmpty() || menuRow == u"-"_s ? QModelIndex() : f.item(menuRow);
-    QCOMPARE(f.view.contextMenuItem(), expectedItem);
-    menu.close();
-    QVERIFY(!f.view.contextMenuItem().isValid());
-}
-
 void TestOutlineView::hiddenMarkerMovesTheClick_data()
 {
     QTest::addColumn<int>("x");
@@ -344,15 +169,16 @@ void TestOutlineView::hiddenMarkerMovesTheClick_data()
     QTest::addColumn<std::optional<bool>>("delegateShowsMarker");
     QTest::addColumn<int>("clickedColumn");
     QTest::addColumn<bool>("expanded");
+    QTest::addColumn<bool>("widened"); // a leaf's cell is drawn over the marker's place
 
     // Column 0 is 30 wide and its first 16 pixels hold the marker of "a"; column 1 follows.
     const std::optional<bool> noAnswer;
-    QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true;
-    QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false;
-    QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false;
-    QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false;
-    QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false;
-    QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true;
+    QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true << false;
+    QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false << false;
+    QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false << true;
+    QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false << true;
+    QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false << true;
+    QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true << false;
 }
 
 void TestOutlineView::hiddenMarkerMovesTheClick()
@@ -362,10 +188,19 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
     QFETCH(std::optional<bool>, delegateShowsMarker);
     QFETCH(int, clickedColumn);
     QFETCH(bool, expanded);
+    QFETCH(bool, widened);
     Fixture f;
     f.view.setShowsIndentationMarker(viewShowsMarker);
     f.delegate.showsMarker = delegateShowsMarker;
     QSignalSpy clicked(&f.view, &QAbstractItemView::clicked);
+    // "b" is a leaf: unless its cell is widened, nothing is drawn left of it.
+    const QRect cell = f.view.visualRect(f.item(u"b"_s));
+    const QImage image = brixeltest::renderWidget(*f.view.viewport());
+    const auto hasText = [&image](const QRect &area) {
+        return !brixeltest::pixelBounds(image.copy(area), [](const QColor &c) { return c.lightness() < 128; }).isNull();
+    };
+    QCOMPARE(hasText(QRect(cell.left() - 16, cell.top(), 16, cell.height())), widened);
+    QVERIFY(hasText(cell.adjusted(-16, 0, 0, 0)));
 
     QTest::mouseClick(f.view.viewport(), Qt::LeftButton, {}, f.pointIn(u"a"_s, x));
 
@@ -377,93 +212,104 @@ void TestOutlineView::hiddenMarkerMovesTheClick()
     }
 }
 
-void TestOutlineView::textCellsGreyWhileDisabled_data()
+void TestOutlineView::highlightFollowsIndentation_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("follows");
+    QTest::addColumn<int>("indent"); // where the shape starts, in indentation steps plus 16 for leaves
+
+    QTest::newRow("nested leaf, following") << u"a2"_s << true << 1;
+    QTest::newRow("nested leaf, not following") << u"a2"_s << false << 0;
+    QTest::newRow("top-level leaf") << u"b"_s << true << 0;
+}
+
+void TestOutlineView::highlightFollowsIndentation()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, follows);
+    QFETCH(int, indent);
+    Fixture f;
+    viewkinds::showFocused(f.view, f.view.size());
+    f.view.header()->resizeSection(0, 120);
+    f.view.expandAll();
+    f.view.setHighlightFollowsIndentation(follows);
+    f.view.selectionModel()->select(f.item(name), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const int left = indent == 0 ? 0 : indent * f.view.indentation() + 16;
+    const int y = f.view.visualRect(f.item(name)).center().y();
+    const QImage image = brixeltest::renderWidget(*f.view.viewport());
+
+    // Left of the shape is background; just inside it (past the 1-wide outline) is the fill.
+    const auto isWhite = [](const QColor &c) { return c.red() > 245 && c.green() > 245 && c.blue() > 245; };
+    if (left > 0)
+        QVERIFY(isWhite(brixeltest::colorAt(image, {left - 2, y})));
+    QVERIFY(!isWhite(brixeltest::colorAt(image, {left + 2, y})));
+}
+
+void TestOutlineView::disablingGreysAndRestores_data()
 {
     QTest::addColumn<QList<Action>>("steps");
     QTest::addColumn<Colors>("sharedCell");  // column "name": the view's own cell, colours unset
     QTest::addColumn<Colors>("ownCell");     // column "kind": red on yellow; "size" is no text cell
-
-    const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
-    const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
-    const Action repaintOwnCell = [](Fixture &f) {
-        auto *cell = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegateForColumn(2));
-        cell->setTextColor(Qt::blue);
-    };
-    const QColor grey = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
-    const QColor light = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
-    const Colors greyed{grey, light};
-    const Colors unset{QColor(), QColor()};
-    const Colors own{Qt::red, Qt::yellow};
-
-    QTest::newRow("disabling greys every text cell") << QList{disable} << greyed << greyed;
-    QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own;
-    QTest::newRow("disabling twice saves once") << QList{disable, repaintOwnCell, disable, enable} << unset << own;
-    QTest::newRow("a disabled parent greys too") << QList{Action([](Fixture &f) { f.view.parentWidget()->setEnabled(false); })}
-                                                 << greyed << greyed;
-    // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
-    QTest::newRow("hiding a column while disabled shifts the pairs")
-        << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset;
-}
-
-void TestOutlineView::textCellsGreyWhileDisabled()
-{
-    QFETCH(QList<Action>, steps);
-    QFETCH(Colors, sharedCell);
-    QFETCH(Colors, ownCell);
-    QWidget parent;
-    Fixture f;
-    f.view.setParent(&parent);
-    f.view.setItemDelegateForColumn(1, new QStyledItemDelegate(&f.view));
-    auto *cell = new ZARNTextFieldCell(&f.view);
-    cell->setTextColor(Qt::red);
-    cell->setBackgroundColor(Qt::yellow);
-    f.view.setItemDelegateForColumn(2, cell);
-    auto *shared = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegate());
-
-    for (const Action &step : steps)
-        step(f);
-
-    QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
-    QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
-}
-
-void TestOutlineView::scrollBarsFollowTheEnabledState_data()
-{
     QTest::addColumn<Qt::ScrollBarPolicy>("policy");
     QTest::addColumn<bool>("barEnabledBefore");
-    QTest::addColumn<QList<Action>>("steps");
     QTest::addColumn<bool>("barEnabledAfter");
 
     const Action disable = [](Fixture &f) { f.view.setEnabled(false); };
     const Action enable = [](Fixture &f) { f.view.setEnabled(true); };
     const Action disableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(false); };
     const Action enableParent = [](Fixture &f) { f.view.parentWidget()->setEnabled(true); };
-    const Action enableBar = [](Fixture &f) { f.view.verticalScrollBar()->setEnabled(true); };
+    const Action changeWhileDisabled = [](Fixture &f) {
+        qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegateForColumn(2))->setTextColor(Qt::blue);
+        f.view.verticalScrollBar()->setEnabled(true);
+    };
+    const QColor grey = QColor::fromRgbF(0.5f, 0.5f, 0.5f);
+    const QColor light = QColor::fromRgbF(0.94f, 0.94f, 0.94f);
+    const Colors greyed{grey, light};
+    const Colors unset{QColor(), QColor()};
+    const Colors own{Qt::red, Qt::yellow};
+    const auto asNeeded = Qt::ScrollBarAsNeeded;
 
-    QTest::newRow("enabled bar comes back enabled") << Qt::ScrollBarAsNeeded << true << QList{disable, enable} << true;
-    QTest::newRow("disabled bar stays disabled") << Qt::ScrollBarAsNeeded << false << QList{disable, enable} << false;
-    QTest::newRow("always-off bar is left alone") << Qt::ScrollBarAlwaysOff << true << QList{disable, enable} << true;
-    QTest::newRow("disabling twice saves once") << Qt::ScrollBarAlwaysOn << false << QList{disable, enableBar, disable, enable} << false;
-    QTest::newRow("a disabled ancestor counts") << Qt::ScrollBarAsNeeded << true << QList{disableParent, enableParent} << true;
-    QTest::newRow("bar is off while disabled") << Qt::ScrollBarAsNeeded << true << QList{disable} << false;
+    QTest::newRow("disabling greys every text cell, bar off") << QList{disable} << greyed << greyed << asNeeded << true << false;
+    QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own << asNeeded << true << true;
+    QTest::newRow("a disabled bar stays disabled") << QList{disable, enable} << unset << own << asNeeded << false << false;
+    QTest::newRow("an always-off bar is left alone")
+        << QList{disable, enable} << unset << own << Qt::ScrollBarAlwaysOff << true << true;
+    QTest::newRow("disabling twice saves once") << QList{disable, changeWhileDisabled, disable, enable} << unset << own
+                                                << Qt::ScrollBarAlwaysOn << false << false;
+    QTest::newRow("a disabled parent greys too") << QList{disableParent} << greyed << greyed << asNeeded << true << false;
+    QTest::newRow("and restores") << QList{disableParent, enableParent} << unset << own << asNeeded << true << true;
+    // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
+    QTest::newRow("hiding a column while disabled shifts the pairs")
+        << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset
+        << asNeeded << true << true;
 }
 
-void TestOutlineView::scrollBarsFollowTheEnabledState()
+void TestOutlineView::disablingGreysAndRestores()
 {
+    QFETCH(QList<Action>, steps);
+    QFETCH(Colors, sharedCell);
+    QFETCH(Colors, ownCell);
     QFETCH(Qt::ScrollBarPolicy, policy);
     QFETCH(bool, barEnabledBefore);
-    QFETCH(QList<Action>, steps);
     QFETCH(bool, barEnabledAfter);
     QWidget parent;
     Fixture f;
     f.view.setParent(&parent);
     parent.show();
+    f.view.setItemDelegateForColumn(1, new QStyledItemDelegate(&f.view));
+    auto *cell = new ZARNTextFieldCell(&f.view);
+    cell->setTextColor(Qt::red);
+    cell->setBackgroundColor(Qt::yellow);
+    f.view.setItemDelegateForColumn(2, cell);
+    auto *shared = qobject_cast<ZARNTextFieldCell *>(f.view.itemDelegate());
     f.view.setVerticalScrollBarPolicy(policy);
     f.view.verticalScrollBar()->setEnabled(barEnabledBefore);
 
     for (const Action &step : steps)
         step(f);
 
+    QCOMPARE(Colors({shared->textColor(), shared->backgroundColor()}), sharedCell);
+    QCOMPARE(Colors({cell->textColor(), cell->backgroundColor()}), ownCell);
     QCOMPARE(!f.view.verticalScrollBar()->testAttribute(Qt::WA_ForceDisabled), barEnabledAfter);
 }
 
@@ -541,7 +387,7 @@ void TestOutlineView::drops()
     f.view.setShouldCollapseAutoExpandedItemsForDeposits(collapseForDeposits);
     f.view.setShouldCollapseAutoExpandedItemsForFailedDeposits(collapseForFailedDeposits);
     f.view.expand(f.item(u"a"_s));  // opened by the user before the drag
-    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    std::unique_ptr<QMimeData> data(f.model.mimeData({f.item(u"b"_s)}));
     QMimeData refused;
     refused.setText(u"plain text"_s);
     const QPoint over = f.pointIn(u"a1"_s, 60);
@@ -569,7 +415,7 @@ void TestOutlineView::qtAutoExpansionIsFollowed()
     Fixture f;
     f.view.setDragDropMode(QAbstractItemView::DragDrop);
     f.view.setAutoExpandDelay(0);
-    std::unique_ptr<QMimeData> data(f.model->mimeData({f.item(u"b"_s)}));
+    std::unique_ptr<QMimeData> data(f.model.mimeData({f.item(u"b"_s)}));
     const QPoint over = f.pointIn(u"a"_s, 60);
     QCursor::setPos(f.view.viewport()->mapToGlobal(over));
     if (QCursor::pos() != f.view.viewport()->mapToGlobal(over))
@@ -627,27 +473,6 @@ void TestOutlineView::tile2LogsTheShownRows()
     QCOMPARE(f.view.numberOfRows(), rows);
 }
 
-void TestOutlineView::dragImageIsMadeInDragPrep()
-{
-    QStandardItemModel model;
-    fill(model);
-    DragOutlineView view;
-    view.setModel(&model);
-    auto *probe = new FlagProbe(&view);
-    view.setItemDelegate(probe);
-    view.resize(200, 150);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    view.selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    probe->flags.clear();
-
-    view.startDrag(Qt::CopyAction);
-
-    QVERIFY(!probe->flags.isEmpty());
-    QVERIFY(!probe->flags.contains(false));
-    QVERIFY(!view.inDragPrep());
-}
-
 void TestOutlineView::zapHidesTheMarkers()
 {
     QTreeView plain;
@@ -681,24 +506,14 @@ void TestOutlineView::zapHidesTheMarkers()
     QVERIFY(!inkIn(markerArea(u"a1"_s)));
 }
 
-void TestOutlineView::worksWithoutModelOrDelegate()
+// The keys, clicks and drag the table shares are checked without a model with it; these are
+// the outline's own.
+void TestOutlineView::worksWithoutModel()
 {
-    DragOutlineView view;
-    auto menu = std::make_unique<QMenu>();
-    view.setMenu(menu.get());
-    menu.reset();
-    QCOMPARE(view.menu(), nullptr);
-    view.resize(120, 80);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    for (Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_A})
-        QTest::keyClick(&view, key);
-    QTest::mousePress(view.viewport(), Qt::RightButton, {}, {5, 5});
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::MetaModifier, {5, 5});
+    ZARNOutlineView view;
+    viewkinds::showView(view, {120, 80});
     view.setShowsIndentationMarker(false);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, {5, 5});
-    view.startDrag(Qt::CopyAction);
-    view.hideColumn(0);
     view.setEnabled(false);
     view.setEnabled(true);
     QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^numberOfRows:  0 \\([0-9a-f]+\\)$"_s));

@@ -6,6 +6,7 @@
 #include <Brixel/ZARNTableViewDelegate.h>
 
 #include <BrixelTest.h>
+#include "ViewKinds.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -106,9 +107,7 @@ void prepare(View &view, QStandardItemModel &model, SpyDelegate &spy, QSize size
     view.setItemDelegate(&spy);
     view.setModel(&model);
     view.setAlternatingRowColors(true);
-    view.resize(size);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    viewkinds::showView(view, {size});
 }
 
 } // namespace
@@ -221,9 +220,7 @@ void TestQtParity::headerClickSortsAndSelects()
         table->setModel(&model);
         table->setSelectionMode(QAbstractItemView::ExtendedSelection);
         table->setSelectionBehavior(QAbstractItemView::SelectItems);
-        table->resize(300, 200);
-        table->show();
-        QVERIFY(QTest::qWaitForWindowExposed(table));
+        viewkinds::showView(*table, {300, 200});
         QHeaderView *header = table->horizontalHeader();
         const QPoint secondSection(header->sectionViewportPosition(1) + 10, header->height() / 2);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, secondSection);

@@ -24,8 +24,7 @@ const QRectF row(10, 6, 100, 18);   // the row drawn in every picture
 
 QImage picture(const std::function<void(QPainter &)> &draw)
 {
-    QImage image(120, 30, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = brixeltest::filledImage({120, 30}, Qt::transparent);
     QPainter painter(&image);
     draw(painter);
     return image;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include <Brixel/ZARNNSTableViewSelectionColorAdditions.h>
+#include "tables/HighlightGradientCache_p.h"
 #include "tables/SelectionColorRules_p.h"
 
 #include <BrixelTest.h>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void colourRule_data();
     void colourRule();
     void nullView();
+    void gradient_data();
+    void gradient();
 };
 
 void TestSelectionColors::colourRule_data()
@@ -69,6 +72,38 @@ void TestSelectionColors::nullView()
     QVERIFY(brixeltest::colorsClose(Brixel::selectionColor(nullptr), grey70, 1));
     QVERIFY(brixeltest::colorsClose(Brixel::selectionOutlineColor(nullptr), rgb(0.56f, 0.56f, 0.56f), 1));
     QVERIFY(!Brixel::selectionShouldDrawGradient(nullptr));
+}
+
+void TestSelectionColors::gradient_data()
+{
+    QTest::addColumn<QColor>("systemHighlight");
+    QTest::addColumn<QColor>("top");
+    QTest::addColumn<QColor>("bottom");
+
+    // HSV (220, 0.75, 0.8): top (220, 0.6, 0.95), bottom (220, 0.85, 0.7).
+    QTest::newRow("lighter at the top, darker at the bottom") << highlight << rgb(0.38f, 0.57f, 0.95f) << rgb(0.105f, 0.3033f, 0.7f);
+    // White cannot get lighter: saturation and brightness stay within 0..1.
+    QTest::newRow("white: components kept within range") << QColor(Qt::white) << rgb(1, 1, 1) << rgb(0.9f, 0.9f, 0.9f);
+    QTest::newRow("alpha carried through") << rgb(0.2f, 0.4f, 0.8f, 0.5f) << rgb(0.38f, 0.57f, 0.95f, 0.5f) << rgb(0.105f, 0.3033f, 0.7f, 0.5f);
+    QTest::newRow("invalid colour: from black") << QColor() << rgb(0.15f, 0.15f, 0.15f) << rgb(0, 0, 0);
+}
+
+// The first and last pixel rows lie half a pixel inside the ends, 1/36 of the way along the
+// axis of an 18-pixel image, hence the tolerance.
+void TestSelectionColors::gradient()
+{
+    QFETCH(QColor, systemHighlight);
+    QFETCH(QColor, top);
+    QFETCH(QColor, bottom);
+    BrixelPrivate::HighlightGradientCache cache;
+    QCOMPARE(cache.image(qQNaN(), systemHighlight).height(), 1);
+    const QImage image = cache.image(18, systemHighlight);
+    for (int x : {0, 63}) {
+        const QColor first = image.pixelColor(x, 0);
+        const QColor last = image.pixelColor(x, 17);
+        QVERIFY2(brixeltest::colorsClose(first, top, 4), qPrintable(first.name(QColor::HexArgb)));
+        QVERIFY2(brixeltest::colorsClose(last, bottom, 4), qPrintable(last.name(QColor::HexArgb)));
+    }
 }
 
 QTEST_MAIN(TestSelectionColors)

@@ -91,15 +91,6 @@ private:
     QStringList m_titles;
 };
 
-// Columns A and B of a table view.
-struct TwoColumnTable
-{
-    TwoColumnTable() { view.setModel(model.get()); }
-    std::unique_ptr<QStandardItemModel> model = makeModel({u"A"_s, u"B"_s});
-    QTableView view;
-    BrixelPrivate::TableColumnList list{&view, view.horizontalHeader()};
-};
-
 } // namespace
 
 class TestTableColumns : public QObject
@@ -265,8 +256,10 @@ void TestTableColumns::anotherModelMakesNewColumns()
 
 void TestTableColumns::hiddenColumnKeepsItsWidth()
 {
-    TwoColumnTable table;
-    auto &[model, view, list] = table;
+    const auto model = makeModel({u"A"_s, u"B"_s});
+    QTableView view;
+    view.setModel(model.get());
+    BrixelPrivate::TableColumnList list(&view, view.horizontalHeader());
     ZARNTableColumn *column = list.columnAt(0);
     column->setWidth(70);
     list.hideColumn(0);

@@ -61,8 +61,7 @@ QStandardItem *item(const QString &text, const QVariantMap &roles = {})
 QImage paintCell(const ZARNTextFieldCell &cell, const QStyleOptionViewItem &option, const QModelIndex &index,
                  const QColor &background = Qt::darkBlue)
 {
-    QImage image(120, 40, QImage::Format_ARGB32_Premultiplied);
-    image.fill(background);
+    QImage image = brixeltest::filledImage({120, 40}, background);
     QPainter painter(&image);
     cell.paint(&painter, option, index);
     return image;

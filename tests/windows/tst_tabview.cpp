@@ -135,8 +135,7 @@ void TestTabView::imageWidensTheLabel()
     ZARNTabView tabs;
     auto *plain = new ZARNTabViewItem;
     auto *withImage = new ZARNTabViewItem;
-    QImage star(12, 12, QImage::Format_ARGB32_Premultiplied);
-    star.fill(Qt::red);
+    QImage star = brixeltest::filledImage({12, 12}, Qt::red);
     withImage->setImage(star);
     tabs.addTab(plain, QStringLiteral("Same"));
     tabs.addTab(withImage, QStringLiteral("Same"));
