@@ -55,7 +55,7 @@ qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess
 }
 
 /// The same, where \a surelyTooLong answers true for a length that is known not to fit
-/// without measuring it, which saves the look just past the boundary.
+/// without measuring it: the search then takes it as too long without asking \a fits.
 template<typename Fits, typename SurelyTooLong>
 qsizetype longestFittingLength(qsizetype maxLength, Fits &&fits, qsizetype guess, SurelyTooLong &&surelyTooLong);
 
@@ -67,27 +67,28 @@ qsizetype BrixelPrivate::longestFittingLength(qsizetype maxLength, Fits &&fits, 
 {
     if (maxLength < 0)
         return -1;
+    const auto measuredFit = [&](qsizetype length) { return !surelyTooLong(length) && fits(length); };
     qsizetype fitting = std::clamp<qsizetype>(guess, 0, maxLength);
     // Narrows [fitting, tooLong) down to the boundary; then a kerning pair at the cut may make
     // a longer prefix narrower, so one further is looked at: false when the search is done.
     const auto settle = [&](qsizetype tooLong) {
         while (tooLong - fitting > 1) {
             const qsizetype middle = fitting + (tooLong - fitting) / 2;
-            (fits(middle) ? fitting : tooLong) = middle;
+            (measuredFit(middle) ? fitting : tooLong) = middle;
         }
-        if (tooLong + 1 > maxLength || surelyTooLong(tooLong + 1) || !fits(tooLong + 1))
+        if (tooLong + 1 > maxLength || !measuredFit(tooLong + 1))
             return false;
         fitting = tooLong + 1;
         return true;
     };
-    if (!fits(fitting)) {
+    if (!measuredFit(fitting)) {
         // Walk down from the guess to a length that fits.
         qsizetype tooLong = fitting;
         for (qsizetype step = 1;; step *= 2) {
             if (tooLong == 0)
                 return -1;
             const qsizetype shorter = std::max<qsizetype>(tooLong - step, 0);
-            if (fits(shorter)) {
+            if (measuredFit(shorter)) {
                 fitting = shorter;
                 break;
             }
@@ -99,7 +100,7 @@ qsizetype BrixelPrivate::longestFittingLength(qsizetype maxLength, Fits &&fits, 
     for (;;) {
         // Grow from what fits: the answer is usually near, and short prefixes are cheap.
         qsizetype step = 1;
-        while (step <= maxLength - fitting && fits(fitting + step)) {
+        while (step <= maxLength - fitting && measuredFit(fitting + step)) {
             fitting += step;
             step *= 2;
         }
