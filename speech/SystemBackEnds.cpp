@@ -18,6 +18,7 @@
 
 #include <alsa/asoundlib.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -234,8 +235,12 @@ class SystemMediaFacts final : public ZARNMediaFacts
 public:
     QList<ZARNMediaEncoder> encoders() const override
     {
+        // Qt lists the formats in an order that changes from run to run; a component's
+        // identifier is its position, so the list is put in the enum's order.
+        QList<QMediaFormat::FileFormat> formats = QMediaFormat().supportedFileFormats(QMediaFormat::Encode);
+        std::sort(formats.begin(), formats.end());
         QList<ZARNMediaEncoder> result;
-        for (QMediaFormat::FileFormat format : QMediaFormat().supportedFileFormats(QMediaFormat::Encode))
+        for (QMediaFormat::FileFormat format : std::as_const(formats))
             result.append({QMediaFormat::fileFormatName(format), formatCode(format)});
         return result;
     }

@@ -66,10 +66,11 @@ BRIXEL_EXPORT int BXAlertSoundCompletionRoutine(quint32 sound);
 BRIXEL_EXPORT QStringList ZARNSystemSoundPaths();
 
 /**
- * The media framework's movie-export components: one map per format it can encode, with the
- * keys "name" (QString), "component" (QByteArray, the component's 4-byte identifier, its
- * position from 1 in big-endian order), "type" ('spit' as a number), "subtype" (the format's
- * four-character code as a number) and "manufacturer" ('QtMM' as a number).
+ * The media framework's movie-export components: one map per format it can encode, in the
+ * order of QMediaFormat::FileFormat (the same in every run), with the keys "name" (QString),
+ * "component" (QByteArray, the component's 4-byte identifier, its position from 1 in
+ * big-endian order), "type" ('spit' as a number), "subtype" (the format's four-character code
+ * as a number) and "manufacturer" ('QtMM' as a number).
  */
 BRIXEL_EXPORT QList<QVariantMap> availableComponents();
 
