@@ -47,9 +47,9 @@ public:
     qreal width() const { return m_width; }
     /**
      * How far text position \a position (the place before the character there) is from the
-     * start of its line: for text on one line, the width of the text before it, which makes
-     * it a close estimate of how wide that start of the text is alone. Positions outside the
-     * text are taken as its start or end.
+     * left end of its line. For left-to-right text on one line that is the width of the text
+     * before the position, a close estimate of how wide that start of the text is alone.
+     * Positions outside the text are taken as its start or end.
      */
     qreal cursorX(qsizetype position) const;
     /// The lines' heights added up. Empty text still has one empty line of its font's height.
