@@ -3,6 +3,7 @@
 // hang, and their results follow the shortening rules: unchanged text when it fits, else a
 // start of the text followed by "..." that fits, or "..." alone.
 
+#include <Brixel/ZARNAttributedTextLayout.h>
 #include <Brixel/ZARNTextTruncation.h>
 #include "drawing/TruncationSearch_p.h"
 
@@ -71,6 +72,23 @@ extern "C" int LLVMFuzzerTestOneInput(const quint8 *data, size_t size)
         }
     } catch (const std::out_of_range &) {
         require(string.isEmpty() && width < 4.0f);
+    }
+
+    // A table cell's path for text in one font: the same rules, and the layout it hands back
+    // for drawing is the shortened text's.
+    const QFont font = attributesFrom(styleA).value(ZARNFontAttributeName).value<QFont>();
+    const ZARNAttributedTextLayout whole(text, font, Qt::black, Qt::AlignLeft);
+    const qreal dotsWidth = ZARNAttributedTextLayout(QStringLiteral("..."), font, Qt::black, Qt::AlignLeft).width();
+    const BrixelPrivate::ShortenedText shortened =
+        BrixelPrivate::shortenedPlainText(text, font, Qt::black, Qt::AlignLeft, width, whole, dotsWidth);
+    if (shortened.text != text) {
+        require(shortened.text.endsWith(u"...") && text.startsWith(shortened.text.chopped(3)));
+        require(shortened.text.size() - 3 < text.size());
+    }
+    if (shortened.layout) {
+        const ZARNAttributedString shown(shortened.text, {{ZARNFontAttributeName, font}});
+        require(float(shortened.layout->width()) == BrixelPrivate::attributedStringWidth(shown));
+        require(!(double(float(shortened.layout->width())) > limit));
     }
     return 0;
 }
