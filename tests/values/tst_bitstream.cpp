@@ -180,6 +180,7 @@ void TestBitstream::reads_data()
     row("a negative location reads zeros up to the data", "80", "loc-3 bits4", {1}, 1);
     row("a location past the length reads nothing", "ff", "loc20 bit ue", {0, 0}, 20);
     row("location arithmetic saturates", "ffff", "loc9223372036854775000 skip9223372036854775000 bit", {1}, 16);
+    row("one bit past the largest location saturates too", "ffff", "loc9223372036854775807 skip1 bit", {1}, 16);
     row("reading backwards from far before the data", "01", "loc-9223372036854775807 ue", {0xffffffff}, 8);
     row("a folded read at the lowest location and length", "ffffffffffffffff",
         "len-9223372036854775808 loc-9223372036854775808 bits-4294967254", {0}, std::numeric_limits<qint64>::min());
