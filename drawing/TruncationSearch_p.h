@@ -36,8 +36,9 @@ struct ShortenedText
  * cut, which is usually exact. Text that fits, and text of which not even "..." fits, come
  * back without a layout.
  */
-BRIXEL_AUTOTEST_EXPORT ShortenedText shortenedPlainText(const QString &text, const QFont &font, const QColor &color, Qt::Alignment alignment,
-                                 float width, const ZARNAttributedTextLayout &whole, qreal dotsWidth);
+BRIXEL_AUTOTEST_EXPORT ShortenedText shortenedPlainText(const QString &text, const QFont &font, const QColor &color,
+                                                        Qt::Alignment alignment, float width,
+                                                        const ZARNAttributedTextLayout &whole, qreal dotsWidth);
 
 /**
  * The largest length from 0 to \a maxLength for which \a fits answers true, assuming that a

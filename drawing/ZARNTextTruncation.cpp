@@ -155,8 +155,8 @@ ZARNAttributedString Brixel::TruncateAttributedString(const ZARNAttributedString
     return shortened(string, limit, measureAgainst(string, limit));
 }
 
-BrixelPrivate::ShortenedText BrixelPrivate::shortenedPlainText(const QString &text, const QFont &font, const QColor &color,
-                                                              Qt::Alignment alignment, float width,
+BrixelPrivate::ShortenedText BrixelPrivate::shortenedPlainText(const QString &text, const QFont &font,
+                                                              const QColor &color, Qt::Alignment alignment, float width,
                                                               const ZARNAttributedTextLayout &whole, qreal dotsWidth)
 {
     const double limit = double(width) - ZARNTruncationMargin;

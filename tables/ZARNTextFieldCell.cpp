@@ -97,7 +97,8 @@ public:
 
 // The text a cell shows for \a text in one style, \a attributes, at \a width: the text itself
 // when it fits, else its shortened form.
-QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width)
+QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, const QVariantMap &attributes,
+                                            qreal width)
 {
     ShortenedTextKey key{text.string(), attributes.value(ZARNFontAttributeName).value<QFont>(), width};
     if (const QString *shown = shortenedTexts.object(key))
@@ -110,10 +111,9 @@ QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, co
 // The layout of a plain \a style text that does not fit \a width (laid out whole as \a whole),
 // shortened; \a dotsWidth is the width of "..." in its font. A text shortened before is laid
 // out once; one met for the first time is drawn with the layout its shortening ended on.
-std::unique_ptr<ZARNAttributedTextLayout> ZARNTextFieldCellPrivate::shortenedLayout(const ZARNTextFieldCell::TextStyle &style,
-                                                                                qreal width,
-                                                                                const ZARNAttributedTextLayout &whole,
-                                                                                qreal dotsWidth)
+std::unique_ptr<ZARNAttributedTextLayout>
+ZARNTextFieldCellPrivate::shortenedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width,
+                                          const ZARNAttributedTextLayout &whole, qreal dotsWidth)
 {
     ShortenedTextKey key{style.text, style.font, width};
     if (const QString *shown = shortenedTexts.object(key))

@@ -114,7 +114,8 @@ void TestTruncation::plainTextSameAsShorteningOneCharacterAtATime()
 
         const BrixelPrivate::ShortenedText shortened =
             BrixelPrivate::shortenedPlainText(text, cellFont, Qt::black, Qt::AlignLeft, width, whole, dotsWidth);
-        const ZARNAttributedString expected = stepByStep(ZARNAttributedString(text, {{ZARNFontAttributeName, cellFont}}), width);
+        const ZARNAttributedString expected =
+            stepByStep(ZARNAttributedString(text, {{ZARNFontAttributeName, cellFont}}), width);
         QCOMPARE(shortened.text, expected.string());
         if (shortened.layout)
             QCOMPARE(float(shortened.layout->width()), attributedStringWidth(expected));
