@@ -76,6 +76,7 @@ class ZARNTextFieldCellPrivate
 {
 public:
     QString shownText(const ZARNAttributedString &text, const QVariantMap &attributes, qreal width);
+    std::unique_ptr<ZARNAttributedTextLayout> cachedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width);
     std::unique_ptr<ZARNAttributedTextLayout> shortenedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width,
                                                               const ZARNAttributedTextLayout &whole, qreal dotsWidth);
 
@@ -108,16 +109,25 @@ QString ZARNTextFieldCellPrivate::shownText(const ZARNAttributedString &text, co
     return shown;
 }
 
+// The layout of what a plain \a style text showed at \a width when it was shortened before, or
+// null: such a text is laid out once, as shown, and not whole first.
+std::unique_ptr<ZARNAttributedTextLayout>
+ZARNTextFieldCellPrivate::cachedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width)
+{
+    const QString *shown = shortenedTexts.object(ShortenedTextKey{style.text, style.font, width});
+    if (!shown)
+        return nullptr;
+    return std::make_unique<ZARNAttributedTextLayout>(*shown, style.font, style.color, style.alignment);
+}
+
 // The layout of a plain \a style text that does not fit \a width (laid out whole as \a whole),
-// shortened; \a dotsWidth is the width of "..." in its font. A text shortened before is laid
-// out once; one met for the first time is drawn with the layout its shortening ended on.
+// shortened, which the cache then keeps; \a dotsWidth is the width of "..." in its font. The
+// layout is the one the shortening ended on.
 std::unique_ptr<ZARNAttributedTextLayout>
 ZARNTextFieldCellPrivate::shortenedLayout(const ZARNTextFieldCell::TextStyle &style, qreal width,
                                           const ZARNAttributedTextLayout &whole, qreal dotsWidth)
 {
     ShortenedTextKey key{style.text, style.font, width};
-    if (const QString *shown = shortenedTexts.object(key))
-        return std::make_unique<ZARNAttributedTextLayout>(*shown, style.font, style.color, style.alignment);
     BrixelPrivate::ShortenedText shortened = BrixelPrivate::shortenedPlainText(
         style.text, style.font, style.color, style.alignment, float(width), whole, dotsWidth);
     shortenedTexts.insert(std::move(key), new QString(shortened.text));
@@ -279,8 +289,14 @@ void ZARNTextFieldCell::paint(QPainter *painter, const QStyleOptionViewItem &opt
                            bounds, vertical);
         return;
     }
-    // Most cells fit: lay the text out once, plainly, and draw that same layout. A shortened
-    // text is in the same one style, so it is laid out plainly too.
+    // A text shortened for an earlier paint is drawn as it was shown then. Most other cells
+    // fit: lay the text out once, plainly, and draw that same layout. A shortened text is in
+    // the same one style, so it is laid out plainly too.
+    if (const auto shown = d->cachedLayout(style, bounds.width())) {
+        if (fitsCell(shown->width(), bounds.width()))
+            placeText(*painter, *shown, bounds, vertical);
+        return;
+    }
     const ZARNAttributedTextLayout layout(style.text, style.font, style.color, style.alignment);
     if (fitsCell(layout.width(), bounds.width())) {
         placeText(*painter, layout, bounds, vertical);
