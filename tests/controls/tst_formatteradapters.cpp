@@ -105,6 +105,7 @@ void TestFormatterAdapters::delegateEditsThroughFormatter()
     view.edit(cell);
     auto *editor = view.findChild<QLineEdit *>();
     QVERIFY(editor);
+    QVERIFY(qobject_cast<const ZARNFormatterValidator *>(editor->validator()));
     QCOMPARE(editor->text(), u"0:01:00"_s);
     editor->selectAll();
     QTest::keyClicks(editor, typed);

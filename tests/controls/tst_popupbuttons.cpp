@@ -136,6 +136,7 @@ void TestPopUpButtons::selection()
     QCOMPARE(checkedStates(button), checked);
     if (!checked.isEmpty())
         QCOMPARE(button.selectedItem()->text(), title);
+    QCOMPARE(button.lastItem(), button.menu()->actions().isEmpty() ? nullptr : button.menu()->actions().constLast());
 }
 
 void TestPopUpButtons::popsUpItsMenu_data()

@@ -44,7 +44,7 @@ void forEachKind(const char *name, Add add)
         add(QTest::addRow("%s: %s", kind == Kind::Table ? "table" : "outline", name) << kind);
 }
 
-enum class Click { Right, RightWithoutMenu, Control, ControlDouble, Plain, Below, MenuKey, MenuMouse };
+enum class Click { Right, RightWithoutMenu, RightDouble, Control, ControlDouble, Plain, Below, MenuKey, MenuMouse };
 
 } // namespace
 
@@ -205,6 +205,7 @@ void TestItemViewBehaviour::contextClick_data()
     both("right press below the rows", u"quiet"_s, yes, Click::Below, -1, before, -1);
     both("menu key opens at the current row", u"plain"_s, silent, Click::MenuKey, -1, before, 2);
     both("mouse menu event leaves it to the press", u"plain"_s, silent, Click::MenuMouse, 4, before, -2);
+    both("a second right click acts as the first", u"plain"_s, silent, Click::RightDouble, 4, {4}, 4);
     both("control-click selects, then opens the menu", u"plain"_s, silent, Click::Control, 3, {3}, 3);
     both("control-double-click only opens the menu", u"plain"_s, silent, Click::ControlDouble, 3, before, 3);
     both("a plain click opens no menu", u"plain"_s, silent, Click::Plain, 3, {3}, -2);
@@ -255,8 +256,8 @@ void TestItemViewBehaviour::contextClick()
 
     QWidget *viewport = view->viewport();
     const QPoint at = row >= 0 ? centreOfRow(*view.view, row) : QPoint(10, viewport->height() - 2);
-    const auto send = [&](QEvent::Type type, Qt::KeyboardModifiers modifiers) {
-        QMouseEvent event(type, at, viewport->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, modifiers);
+    const auto send = [&](QEvent::Type type, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::LeftButton) {
+        QMouseEvent event(type, at, viewport->mapToGlobal(at), button, button, modifiers);
         QApplication::sendEvent(viewport, &event);
     };
     const auto menuEvent = [&](QContextMenuEvent::Reason reason) {
@@ -276,6 +277,9 @@ void TestItemViewBehaviour::contextClick()
         break;
     case Click::ControlDouble:
         send(QEvent::MouseButtonDblClick, Qt::MetaModifier);
+        break;
+    case Click::RightDouble:
+        send(QEvent::MouseButtonDblClick, {}, Qt::RightButton);
         break;
     case Click::Plain:
         QTest::mouseClick(viewport, Qt::LeftButton, {}, at);

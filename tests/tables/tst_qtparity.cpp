@@ -19,9 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What one cell was asked to paint with, in a form that compares and prints.
-using PaintedCell = QString;
-
 /// Records each paint call instead of drawing; a column's rows can be made 60 high.
 class SpyDelegate : public QStyledItemDelegate
 {

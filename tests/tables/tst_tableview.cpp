@@ -297,6 +297,7 @@ void TestTableView::editingMoves()
     view.setModel(&model);
     TabDelegate delegate;
     view.setDelegate(&delegate);
+    QCOMPARE(view.delegate(), &delegate);
     setup(view, model, delegate);
     viewkinds::showView(view, {400, 300});
 
