@@ -132,6 +132,9 @@ void TestFormatterAdapters::delegateWithoutAView()
     editor.setText(u"eight"_s);
     countDelegate.setModelData(&editor, &model, cell);
     QCOMPARE(model.data(cell), QVariant(7));   // refused text leaves the model alone
+    // Without a formatter it edits as Qt's own delegate does.
+    ZARNFormatterDelegate(nullptr).setModelData(&editor, &model, cell);
+    QCOMPARE(model.data(cell), QVariant(u"eight"_s));
 }
 
 QTEST_MAIN(TestFormatterAdapters)

@@ -94,6 +94,7 @@ void TestSegmentedControls::selection()
     control.setSegmentCount(3);
     for (int segment = 0; segment < 3; ++segment)
         control.setTag(10 * (segment + 1), segment);
+    QCOMPARE(control.tagForSegment(3), 0);   // no such segment
     control.setSelectedSegment(1);
     control.resize(100, 20);
     QSignalSpy spy(&control, &ZARNSegmentedControlBase::selectedSegmentChanged);

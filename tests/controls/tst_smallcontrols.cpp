@@ -67,6 +67,7 @@ void TestSmallControls::attachmentOffset()
     QImage red = brixeltest::filledImage({8, 8}, Qt::red);
     QTextDocument document;
     auto *cell = new ZARNTextAttachmentCell(red, &document);
+    QVERIFY(cell->objectType() > QTextFormat::UserObject);
     cell->zarnSetCellBaselineOffset(offset);
     // The centre flag starts off.
     QCOMPARE(cell->cellBaselineOffset(), offset);

@@ -359,6 +359,8 @@ void TestOutlineView::hidingColumns()
     QCOMPARE(f.view.treePosition(), treePositionAfter);
     QCOMPARE(f.view.numberOfColumns(), shown.size());
     QCOMPARE(f.view.hiddenTableColumns().size(), 3 - shown.size());
+    for (ZARNTableColumn *hidden : f.view.hiddenTableColumns())
+        QCOMPARE(f.view.hiddenTableColumnWithIdentifier(hidden->identifier()), hidden);
     QCOMPARE(f.view.tableColumnWithIdentifier(shown.first())->identifier(), shown.first());
 }
 

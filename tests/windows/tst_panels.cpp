@@ -155,6 +155,7 @@ void TestPanels::progressWindow()
 
     window->setCancelHidden(true);
     window->setCancelHidden(true);
+    QVERIFY(window->isCancelHidden());
     QCOMPARE(window->width(), 400 - buttonWidth);
     QVERIFY(!window->cancelButton()->isEnabled());
     QCOMPARE(window->x(), left);
