@@ -133,6 +133,7 @@ void TestSegmentedControls::changesRepaint_data()
 
     QTest::newRow("another selected segment") << Change([](auto &c) { c.setSelectedSegment(0); }) << true;
     QTest::newRow("the same selected segment") << Change([](auto &c) { c.setSelectedSegment(1); }) << false;
+    QTest::newRow("a label") << Change([](auto &c) { c.setLabel(u"New"_s, 0); }) << true;
     QTest::newRow("an image") << Change([](auto &c) { c.setImage(QImage(4, 4, QImage::Format_ARGB32), 0); }) << true;
     QTest::newRow("an image for no segment") << Change([](auto &c) { c.setImage(QImage(4, 4, QImage::Format_ARGB32), 5); }) << false;
 }

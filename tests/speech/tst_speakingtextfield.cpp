@@ -64,6 +64,7 @@ void TestSpeakingTextField::speaksWholeReplacements()
     QFETCH(QStringList, expected);
 
     ZARNSpeakingTextField field;
+    QVERIFY(!field.speaks());   // silent until switched on
     field.setSpeakableCharacters(QStringLiteral("0123456789.,"));
     field.setSpeaks(speaks);
     if (typed.startsWith(u'4'))
