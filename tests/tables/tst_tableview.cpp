@@ -541,6 +541,8 @@ void TestTableView::emptyMessage()
     // Below the first row, so that a row's own text does not count.
     const QRect area(0, 40, 200, viewHeight - 40);
     const QImage image = table.render();
+    if (rows > 0)
+        QVERIFY(!brixeltest::pixelBounds(image.copy(table.view.rectOfRow(0)), isText).isNull());
     const QRect inked = brixeltest::pixelBounds(image.copy(area), [](const QColor &c) { return c != Qt::white; });
     QCOMPARE(!inked.isNull(), drawn && area.height() > 0);
     QCOMPARE(table.view.emptyAttributedString().has_value(), attributed);
