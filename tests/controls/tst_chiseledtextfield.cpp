@@ -195,7 +195,7 @@ void TestChiseledTextField::colorSetters()
     field.setActiveColor(Qt::red);
     QCOMPARE(field.disabledColor(), ZARNChiseledTextField::defaultDisabledColor());
     QCOMPARE(field.inactiveColor(), QColor(Qt::green));
-    field.setInactiveColor(QColor());
+    field.resetInactiveColor();   // sets an invalid colour, which stands for the default
     QCOMPARE(field.inactiveColor(), ZARNChiseledTextField::defaultInactiveColor());
 
     // A default the application sets before first use is every field's default.
