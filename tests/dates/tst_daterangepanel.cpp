@@ -109,7 +109,7 @@ void TestDateRangePanel::layoutOfRealControls()
     QVERIFY(from);
     QCOMPARE(QString::fromLatin1(from->metaObject()->className()), controlClass);
     const QSize button = panel.okButton()->size();
-    QCOMPARE(button.width(), panel.okButton()->sizeHint().width() + 10);   // the button's own width, 10 wider
+    QCOMPARE(button.width(), panel.okButton()->sizeHint().width() + 10);   // 10 wider than it asks for
     const QSize label = panel.fromLabel()->size();
     const QSize to = panel.toLabel()->size();
 

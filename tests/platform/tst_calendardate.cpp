@@ -73,7 +73,8 @@ void TestCalendarDate::arithmetic_data()
     QTest::newRow("fields at the maximum clamp") << maximum << none << u"Fri 9999-12-31 23:59:59"_s;
     QTest::newRow("31 March minus a month is 29 February") << QList{2024, 3, 31, 12, 0, 0} << QList{0, -1, 0, 0, 0, 0} << u"Thu 2024-02-29 12:00:00"_s;
     QTest::newRow("the day is clamped before days are added") << QList{2024, 3, 31, 0, 0, 0} << QList{0, -1, 1, 0, 0, 0} << u"Fri 2024-03-01 00:00:00"_s;
-    QTest::newRow("a year later") << QList{2024, 5, 15, 0, 0, 0} << QList{1, 0, 0, 0, 0, 0} << u"Thu 2025-05-15 00:00:00"_s;
+    QTest::newRow("a year later") << QList{2024, 5, 15, 0, 0, 0} << QList{1, 0, 0, 0, 0, 0}
+                                  << u"Thu 2025-05-15 00:00:00"_s;
     QTest::newRow("the end of today from its fields") << QList{2024, 5, 15, 14, 30, 20} << QList{0, 0, 1, -14, -30, -21} << u"Wed 2024-05-15 23:59:59"_s;
     QTest::newRow("huge amounts clamp") << QList{2024, 5, 15, 0, 0, 0} << maximum << u"Fri 9999-12-31 23:59:59"_s;
     QTest::newRow("huge negative amounts clamp") << QList{2024, 5, 15, 0, 0, 0} << minimum << u"Mon 0001-01-01 00:00:00"_s;
