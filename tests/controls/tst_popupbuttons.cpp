@@ -224,6 +224,7 @@ void TestPopUpButtons::buttonFollowsItsTitle()
     bold.setBold(true);
     QFontMetrics metrics(bold);
     QVERIFY(second.width() > first.width());
+    QVERIFY(second.width() >= metrics.horizontalAdvance(u"All Documents"_s) + 16);   // room for the caps and arrow
     QCOMPARE(second.right(), first.right());
     QCOMPARE(second.bottom(), first.bottom());
     QCOMPARE(second.height(), metrics.height() + 4);
