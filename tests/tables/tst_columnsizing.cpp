@@ -60,6 +60,7 @@ private Q_SLOTS:
     void fitting();
     void headerDoubleClick_data();
     void headerDoubleClick();
+    void headerDragResizes();
 };
 
 void TestColumnSizing::table_data()
@@ -280,6 +281,23 @@ void TestColumnSizing::headerDoubleClick()
             QCOMPARE(header->sectionSize(section), expected.at(section));
     QCOMPARE(handleSpy.size(), handleSignals);
     QCOMPARE(sectionSpy.size(), sectionSignals);
+}
+
+// Dragging a divider resizes the column to its left, as in Qt's own header.
+void TestColumnSizing::headerDragResizes()
+{
+    QStandardItemModel model(2, 3);
+    QTableView view;
+    view.setModel(&model);
+    auto *header = new ZARNNSTableHeaderView(&view);
+    view.setHorizontalHeader(header);
+    header->resizeSection(0, 80);
+    viewkinds::showView(view, {400, 200});
+    const QPoint divider(header->sectionViewportPosition(1) - 1, header->height() / 2);
+    QTest::mousePress(header->viewport(), Qt::LeftButton, {}, divider);
+    QTest::mouseMove(header->viewport(), divider + QPoint(30, 0));
+    QTest::mouseRelease(header->viewport(), Qt::LeftButton, {}, divider + QPoint(30, 0));
+    QCOMPARE(header->sectionSize(0), 110);
 }
 
 QTEST_MAIN(TestColumnSizing)
