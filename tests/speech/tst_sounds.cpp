@@ -15,6 +15,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using BrixelPrivate::fourCharacterCode;
@@ -48,7 +50,7 @@ struct FakeMediaFacts final : ZARNMediaFacts
 {
     QList<ZARNMediaEncoder> encoders() const override
     {
-        return {{QStringLiteral("WAV"), fourCharacterCode("WAVE")}, {QStringLiteral("MP3"), fourCharacterCode("MP3 ")}};
+        return {{u"WAV"_s, fourCharacterCode("WAVE")}, {u"MP3"_s, fourCharacterCode("MP3 ")}};
     }
     QStringList readableSoundFileTypes() const override { return {}; }
     quint32 versionCode() const override { return 0x07138000; }
@@ -68,127 +70,117 @@ private Q_SLOTS:
         m_output = install<FakeSoundOutput, ZARNSoundOutput>();
         install<FakeMediaFacts, ZARNMediaFacts>();
     }
-    void cleanupTestCase() { ZARNUserDefaults::removeObjectForKey(QStringLiteral("com.apple.sound.beep.volume")); }
+    void cleanupTestCase() { ZARNUserDefaults::removeObjectForKey(u"com.apple.sound.beep.volume"_s); }
 
-    void volumes_data();
-    void volumes();
-    void alertSoundPlay_data();
-    void alertSoundPlay();
-    void playerLivesForTheSoundAndATail();
-    void onlySystemFolderSoundsAreListed();
-    void versionStrings();
-    void componentsFromTheMediaFacts();
+    void volumes_data()
+    {
+        QTest::addColumn<Volumes>("channels");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<float>("system");
+        QTest::addColumn<float>("alert");
+
+        QTest::newRow("louder second channel") << Volumes({0.25f, 0.5f}) << QVariant(0.5) << 0.5f << 0.25f;
+        QTest::newRow("louder first channel") << Volumes({0.75f, 0.5f}) << QVariant(1.0) << 0.75f << 0.75f;
+        QTest::newRow("unreadable output is full") << Volumes() << QVariant(0.5) << 1.0f << 0.5f;
+        QTest::newRow("negative alert volume") << Volumes() << QVariant(-0.5) << 1.0f << 0.0f;
+        QTest::newRow("no stored alert volume") << Volumes() << QVariant() << 1.0f << 0.0f;
+        QTest::newRow("NaN alert volume") << Volumes() << QVariant(std::nan("")) << 1.0f << 0.0f;
+    }
+
+    void volumes()
+    {
+        QFETCH(Volumes, channels);
+        QFETCH(QVariant, stored);
+        QFETCH(float, system);
+        QFETCH(float, alert);
+
+        m_output->volumes = channels;
+        ZARNUserDefaults::setObject(stored, u"com.apple.sound.beep.volume"_s);
+        QCOMPARE(Brixel::BXSystemVolume(), system);
+        QCOMPARE(Brixel::BXAlertVolume(), alert);
+    }
+
+    void alertSoundPlay_data()
+    {
+        QTest::addColumn<QVariant>("path");
+        QTest::addColumn<quint32>("alertVolume");
+        QTest::addColumn<bool>("result");
+        QTest::addColumn<QList<float>>("played");
+
+        const QVariant sound(u"/sounds/Blow.wav"_s);
+        QTest::newRow("full volume") << sound << 0x01000100u << true << QList<float>{1.0f};
+        QTest::newRow("half volume") << sound << 0x00800080u << true << QList<float>{0.5f};
+        QTest::newRow("muted") << sound << 0u << true << QList<float>{};
+        QTest::newRow("missing file") << QVariant(u"/missing.wav"_s) << 0x01000100u << true << QList<float>{};
+        QTest::newRow("no path") << QVariant() << 0x01000100u << false << QList<float>{};
+        QTest::newRow("null string") << QVariant(QString()) << 0x01000100u << false << QList<float>{};
+        QTest::newRow("a number") << QVariant(42) << 0x01000100u << false << QList<float>{};
+    }
+
+    void alertSoundPlay()
+    {
+        QFETCH(QVariant, path);
+        QFETCH(quint32, alertVolume);
+        QFETCH(bool, result);
+        QFETCH(QList<float>, played);
+
+        m_output->played.clear();
+        m_output->alert = alertVolume;
+        QCOMPARE(Brixel::BXAlertSoundPlay(path), result);
+        QCOMPARE(m_output->played, played);
+    }
+
+    void playerLivesForTheSoundAndATail()
+    {
+        QVERIFY(Brixel::BXQTSoundPlay(u"/sounds/Blow.wav"_s, 0.5f));
+        QTest::qWait(200);   // the sound's length
+        QVERIFY(m_output->lastSound);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_output->lastSound, 2000);
+    }
+
+    void onlySystemFolderSoundsAreListed()
+    {
+        QTemporaryDir root;
+        const QDir folder(root.path());
+        for (const QString &name : {u"system"_s, u"local"_s, u"user"_s})
+            QVERIFY(folder.mkdir(name));
+        for (const QString &name : {u"system/Blow.wav"_s, u"system/Basso.WAV"_s, u"system/notes.txt"_s,
+                                    u"system/Tink.oga"_s, u"local/Blow.wav"_s, u"local/Extra.wav"_s,
+                                    u"user/Mine.oga"_s})
+            QVERIFY(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+        const auto paths = [&folder](const QString &systemFolder) {
+            return BrixelPrivate::systemSoundPaths(folder.filePath(systemFolder), folder.filePath(u"local"_s),
+                                                   folder.filePath(u"user"_s), {u"wav"_s, u"oga"_s});
+        };
+        QCOMPARE(paths(u"system"_s), QStringList({folder.filePath(u"system/Basso.WAV"_s),
+                                                  folder.filePath(u"system/Blow.wav"_s),
+                                                  folder.filePath(u"system/Tink.oga"_s)}));
+        QCOMPARE(paths(u"absent"_s), QStringList());
+    }
+
+    void versionStrings()
+    {
+        QCOMPARE(Brixel::ZARNQuickTimeVersionString(), u"7.1.3"_s);
+        QCOMPARE(BrixelPrivate::versionString(0x06028000), u"6.0.2"_s);
+        QCOMPARE(BrixelPrivate::versionString(BrixelPrivate::versionCode(6, 4, 2)), u"6.4.2"_s);
+        QCOMPARE(BrixelPrivate::versionString(BrixelPrivate::versionCode(12, 10, 1)), u"18.9.1"_s);   // BCD 0x12
+    }
+
+    void componentsFromTheMediaFacts()
+    {
+        const QVariantMap mp3 = Brixel::componentWithSubType(fourCharacterCode("MP3 "));
+        QCOMPARE(mp3, Brixel::availableComponents().value(1));
+        QCOMPARE(mp3, QVariantMap({{u"name"_s, u"MP3"_s}, {u"component"_s, QByteArray("\0\0\0\2", 4)},
+                                   {u"type"_s, 0x73706974u}, {u"subtype"_s, fourCharacterCode("MP3 ")},
+                                   {u"manufacturer"_s, fourCharacterCode("QtMM")}}));
+        QVERIFY(Brixel::componentWithSubType(fourCharacterCode("none")).isEmpty());
+        QTest::ignoreMessage(QtInfoMsg, "testMovieProgressProc");
+        QCOMPARE(Brixel::testMovieProgressProc(), 0);
+    }
 
 private:
     FakeSoundOutput *m_output = nullptr;
 };
-
-void TestSounds::volumes_data()
-{
-    QTest::addColumn<Volumes>("channels");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<float>("system");
-    QTest::addColumn<float>("alert");
-
-    QTest::newRow("louder second channel") << Volumes({0.25f, 0.5f}) << QVariant(0.5) << 0.5f << 0.25f;
-    QTest::newRow("louder first channel") << Volumes({0.75f, 0.5f}) << QVariant(1.0) << 0.75f << 0.75f;
-    QTest::newRow("unreadable output is full") << Volumes() << QVariant(0.5) << 1.0f << 0.5f;
-    QTest::newRow("negative alert volume") << Volumes() << QVariant(-0.5) << 1.0f << 0.0f;
-    QTest::newRow("no stored alert volume") << Volumes() << QVariant() << 1.0f << 0.0f;
-    QTest::newRow("NaN alert volume") << Volumes() << QVariant(std::nan("")) << 1.0f << 0.0f;
-}
-
-void TestSounds::volumes()
-{
-    QFETCH(Volumes, channels);
-    QFETCH(QVariant, stored);
-    QFETCH(float, system);
-    QFETCH(float, alert);
-
-    m_output->volumes = channels;
-    ZARNUserDefaults::setObject(stored, QStringLiteral("com.apple.sound.beep.volume"));
-    QCOMPARE(Brixel::BXSystemVolume(), system);
-    QCOMPARE(Brixel::BXAlertVolume(), alert);
-}
-
-void TestSounds::alertSoundPlay_data()
-{
-    QTest::addColumn<QVariant>("path");
-    QTest::addColumn<quint32>("alertVolume");
-    QTest::addColumn<bool>("result");
-    QTest::addColumn<QList<float>>("played");
-
-    const QVariant sound(QStringLiteral("/sounds/Blow.wav"));
-    QTest::newRow("full volume") << sound << 0x01000100u << true << QList<float>{1.0f};
-    QTest::newRow("half volume") << sound << 0x00800080u << true << QList<float>{0.5f};
-    QTest::newRow("muted") << sound << 0u << true << QList<float>{};
-    QTest::newRow("missing file") << QVariant(QStringLiteral("/missing.wav")) << 0x01000100u << true << QList<float>{};
-    QTest::newRow("no path") << QVariant() << 0x01000100u << false << QList<float>{};
-    QTest::newRow("null string") << QVariant(QString()) << 0x01000100u << false << QList<float>{};
-    QTest::newRow("a number") << QVariant(42) << 0x01000100u << false << QList<float>{};
-}
-
-void TestSounds::alertSoundPlay()
-{
-    QFETCH(QVariant, path);
-    QFETCH(quint32, alertVolume);
-    QFETCH(bool, result);
-    QFETCH(QList<float>, played);
-
-    m_output->played.clear();
-    m_output->alert = alertVolume;
-    QCOMPARE(Brixel::BXAlertSoundPlay(path), result);
-    QCOMPARE(m_output->played, played);
-}
-
-void TestSounds::playerLivesForTheSoundAndATail()
-{
-    QVERIFY(Brixel::BXQTSoundPlay(QStringLiteral("/sounds/Blow.wav"), 0.5f));
-    QTest::qWait(200);   // the sound's length
-    QVERIFY(m_output->lastSound);
-    QTRY_VERIFY_WITH_TIMEOUT(!m_output->lastSound, 2000);
-}
-
-void TestSounds::onlySystemFolderSoundsAreListed()
-{
-    QTemporaryDir root;
-    const QDir folder(root.path());
-    for (const char *name : {"system", "local", "user"})
-        QVERIFY(folder.mkdir(QLatin1String(name)));
-    for (const char *name : {"system/Blow.wav", "system/Basso.WAV", "system/notes.txt", "system/Tink.oga", "local/Blow.wav",
-                             "local/Extra.wav", "user/Mine.oga"})
-        QVERIFY(QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly));
-    const auto paths = [&folder](const char *systemFolder) {
-        return BrixelPrivate::systemSoundPaths(folder.filePath(QLatin1String(systemFolder)), folder.filePath(QStringLiteral("local")),
-                                               folder.filePath(QStringLiteral("user")), {QStringLiteral("wav"), QStringLiteral("oga")});
-    };
-    QCOMPARE(paths("system"), QStringList({folder.filePath(QStringLiteral("system/Basso.WAV")),
-                                           folder.filePath(QStringLiteral("system/Blow.wav")),
-                                           folder.filePath(QStringLiteral("system/Tink.oga"))}));
-    QCOMPARE(paths("absent"), QStringList());
-}
-
-void TestSounds::versionStrings()
-{
-    QCOMPARE(Brixel::ZARNQuickTimeVersionString(), QStringLiteral("7.1.3"));
-    QCOMPARE(BrixelPrivate::versionString(0x06028000), QStringLiteral("6.0.2"));
-    QCOMPARE(BrixelPrivate::versionString(BrixelPrivate::versionCode(6, 4, 2)), QStringLiteral("6.4.2"));
-    QCOMPARE(BrixelPrivate::versionString(BrixelPrivate::versionCode(12, 10, 1)), QStringLiteral("18.9.1"));   // BCD 0x12
-}
-
-void TestSounds::componentsFromTheMediaFacts()
-{
-    const QVariantMap mp3 = Brixel::componentWithSubType(fourCharacterCode("MP3 "));
-    QCOMPARE(mp3, Brixel::availableComponents().value(1));
-    QCOMPARE(mp3, QVariantMap({{QStringLiteral("name"), QStringLiteral("MP3")},
-                               {QStringLiteral("component"), QByteArray("\0\0\0\2", 4)},
-                               {QStringLiteral("type"), 0x73706974u},
-                               {QStringLiteral("subtype"), fourCharacterCode("MP3 ")},
-                               {QStringLiteral("manufacturer"), fourCharacterCode("QtMM")}}));
-    QVERIFY(Brixel::componentWithSubType(fourCharacterCode("none")).isEmpty());
-    QTest::ignoreMessage(QtInfoMsg, "testMovieProgressProc");
-    QCOMPARE(Brixel::testMovieProgressProc(), 0);
-}
 
 QTEST_GUILESS_MAIN(TestSounds)
 #include "tst_sounds.moc"
