@@ -39,132 +39,126 @@ class TestTabView : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void customViewFrames_data();
-    void customViewFrames();
-    void selectingFitsTheWindow();
-    void customViewInstalledAfterTheResize();
-    void imageWidensTheLabel();
-    void nextResponderOfClass();
+    void customViewFrames_data()
+    {
+        QTest::addColumn<uint>("mode");
+        QTest::addColumn<ZARNRect>("frame");
+
+        // A window (100, 200, 300, 400), y up, that must grow by 100 in height and 40 in width.
+        QTest::newRow("0: unchanged") << 0u << ZARNRect(100, 200, 300, 400);
+        QTest::newRow("17: top edge, horizontal centre") << 17u << ZARNRect(80, 100, 340, 500);
+        QTest::newRow("18: vertical centre, horizontal centre") << 18u << ZARNRect(80, 150, 340, 500);
+        QTest::newRow("33: top and right edges") << 33u << ZARNRect(60, 100, 340, 500);
+        QTest::newRow("only 4: bottom-left corner stays") << 4u << ZARNRect(100, 200, 340, 500);
+    }
+
+    void customViewFrames()
+    {
+        QFETCH(uint, mode);
+        QFETCH(ZARNRect, frame);
+        const ZARNRect fitted = BrixelPrivate::windowFrameForCustomView(ZARNRect(100, 200, 300, 400), {240, 250},
+                                                                        {200, 150}, mode);
+        QCOMPARE(fitted.toQRectF(), frame.toQRectF());
+        // Fractions are rounded outwards.
+        const ZARNRect rounded = BrixelPrivate::windowFrameForCustomView(ZARNRect(0, 0, 100, 100), {111, 101},
+                                                                         {100, 100}, 18);
+        QCOMPARE(rounded.toQRectF(), QRectF(-6, -1, 112, 102));
+    }
+
+    void selectingFitsTheWindow()
+    {
+        QWidget window;
+        window.setGeometry(50, 60, 400, 300);
+        auto *tabs = new ZARNTabView(&window);
+        tabs->setGeometry(0, 0, 400, 300);
+        tabs->addTab(new QWidget, QStringLiteral("Empty"));
+        tabs->addTab(pageSpanning(50, 200), QStringLiteral("Tall"));
+        Recorder recorder;
+        tabs->setDelegate(&recorder);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QPoint topLeft = window.geometry().topLeft();
+        const int chrome = tabs->height() - tabs->currentWidget()->height();
+
+        tabs->setCurrentIndex(1);
+        // The tab view's chrome, the children's 200 and 35.
+        QCOMPARE(tabs->height(), chrome + 200 + 35);
+        QCOMPARE(window.height(), 300 + (chrome + 235 - 300));
+        QCOMPARE(window.geometry().topLeft(), topLeft);
+        const QRect extent = tabs->currentWidget()->childrenRect();
+        QCOMPARE(extent.top(), 15);
+        QCOMPARE(recorder.windowHeights, QList<int>{window.height()});
+
+        // A page without children leaves the window alone.
+        const int height = window.height();
+        tabs->setCurrentIndex(0);
+        QCOMPARE(window.height(), height);
+        QCOMPARE(recorder.items.size(), 2);
+    }
+
+    void customViewInstalledAfterTheResize()
+    {
+        QWidget window;
+        window.setGeometry(50, 60, 400, 300);
+        auto *tabs = new ZARNTabView(&window);
+        tabs->setGeometry(0, 0, 400, 300);
+        tabs->addTab(new QWidget, QStringLiteral("First"));
+        auto *item = new ZARNTabViewItem;
+        auto *custom = new QWidget;
+        custom->resize(300, 260);
+        auto *field = new QLineEdit(custom);
+        item->setCustomView(custom);
+        tabs->addTab(item, QStringLiteral("Custom"));
+        tabs->setWindowResizeMode(1);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const QSize pageArea = tabs->currentWidget()->size();
+        const QPoint topLeft = window.geometry().topLeft();
+        field->setFocus();
+
+        tabs->setCurrentIndex(1);
+        QCOMPARE(window.size(), QSize(400 + 300 - pageArea.width(), 300 + 260 - pageArea.height()));
+        QCOMPARE(window.geometry().topLeft(), topLeft);
+        QVERIFY(custom->isVisible());
+        QCOMPARE(custom->parentWidget(), item);
+    }
+
+    void imageWidensTheLabel()
+    {
+        ZARNTabView tabs;
+        auto *plain = new ZARNTabViewItem;
+        auto *withImage = new ZARNTabViewItem;
+        QImage star = brixeltest::filledImage({12, 12}, Qt::red);
+        withImage->setImage(star);
+        tabs.addTab(plain, QStringLiteral("Same"));
+        tabs.addTab(withImage, QStringLiteral("Same"));
+        tabs.resize(300, 200);
+        const int labelHeight = tabs.tabBar()->fontMetrics().height();
+        QCOMPARE(tabs.tabBar()->tabRect(1).width() - tabs.tabBar()->tabRect(0).width(), labelHeight + 2);
+        // An image given to a tab that exists widens it as well.
+        plain->setImage(star);
+        QCOMPARE(tabs.tabBar()->tabRect(0).width(), tabs.tabBar()->tabRect(1).width());
+    }
+
+    void nextResponderOfClass()
+    {
+        ZARNTabView outer;
+        QTabWidget inner(&outer);
+        QWidget leaf(&inner);
+        // The exact class further up wins over a nearer subclass.
+        QCOMPARE(Brixel::nextResponderOfClass(&leaf, ZARNTabView::staticMetaObject), &outer);
+        QCOMPARE(Brixel::nextResponderOfClass(&leaf, QTabWidget::staticMetaObject), &inner);
+        QCOMPARE(Brixel::nextResponderOfClass(&inner, QTabWidget::staticMetaObject), &outer);
+        QCOMPARE(Brixel::nextResponderOfClass(&outer, QWidget::staticMetaObject), nullptr);
+        QCOMPARE(Brixel::nextResponderOfClass(nullptr, QWidget::staticMetaObject), nullptr);
+
+        QWidget box;
+        (new QWidget(&box))->setGeometry(10, 10, 30, 20);
+        (new QWidget(&box))->setGeometry(50, 5, 10, 50);
+        Brixel::sizeToFit(&box);
+        QCOMPARE(box.size(), QSize(60, 55));
+    }
 };
-
-void TestTabView::customViewFrames_data()
-{
-    QTest::addColumn<uint>("mode");
-    QTest::addColumn<ZARNRect>("frame");
-
-    // A window (100, 200, 300, 400), y up, that must grow by 100 in height and 40 in width.
-    QTest::newRow("0: unchanged") << 0u << ZARNRect(100, 200, 300, 400);
-    QTest::newRow("17: top edge, horizontal centre") << 17u << ZARNRect(80, 100, 340, 500);
-    QTest::newRow("18: vertical centre, horizontal centre") << 18u << ZARNRect(80, 150, 340, 500);
-    QTest::newRow("33: top and right edges") << 33u << ZARNRect(60, 100, 340, 500);
-    QTest::newRow("only 4: bottom-left corner stays") << 4u << ZARNRect(100, 200, 340, 500);
-}
-
-void TestTabView::customViewFrames()
-{
-    QFETCH(uint, mode);
-    QFETCH(ZARNRect, frame);
-    const ZARNRect fitted = BrixelPrivate::windowFrameForCustomView(ZARNRect(100, 200, 300, 400), {240, 250},
-                                                                    {200, 150}, mode);
-    QCOMPARE(fitted.toQRectF(), frame.toQRectF());
-    // Fractions are rounded outwards.
-    QCOMPARE(BrixelPrivate::windowFrameForCustomView(ZARNRect(0, 0, 100, 100), {111, 101}, {100, 100}, 18).toQRectF(),
-             QRectF(-6, -1, 112, 102));
-}
-
-void TestTabView::selectingFitsTheWindow()
-{
-    QWidget window;
-    window.setGeometry(50, 60, 400, 300);
-    auto *tabs = new ZARNTabView(&window);
-    tabs->setGeometry(0, 0, 400, 300);
-    tabs->addTab(new QWidget, QStringLiteral("Empty"));
-    tabs->addTab(pageSpanning(50, 200), QStringLiteral("Tall"));
-    Recorder recorder;
-    tabs->setDelegate(&recorder);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const QPoint topLeft = window.geometry().topLeft();
-    const int chrome = tabs->height() - tabs->currentWidget()->height();
-
-    tabs->setCurrentIndex(1);
-    // The tab view's chrome, the children's 200 and 35.
-    QCOMPARE(tabs->height(), chrome + 200 + 35);
-    QCOMPARE(window.height(), 300 + (chrome + 235 - 300));
-    QCOMPARE(window.geometry().topLeft(), topLeft);
-    const QRect extent = tabs->currentWidget()->childrenRect();
-    QCOMPARE(extent.top(), 15);
-    QCOMPARE(recorder.windowHeights, QList<int>{window.height()});
-
-    // A page without children leaves the window alone.
-    const int height = window.height();
-    tabs->setCurrentIndex(0);
-    QCOMPARE(window.height(), height);
-    QCOMPARE(recorder.items.size(), 2);
-}
-
-void TestTabView::customViewInstalledAfterTheResize()
-{
-    QWidget window;
-    window.setGeometry(50, 60, 400, 300);
-    auto *tabs = new ZARNTabView(&window);
-    tabs->setGeometry(0, 0, 400, 300);
-    tabs->addTab(new QWidget, QStringLiteral("First"));
-    auto *item = new ZARNTabViewItem;
-    auto *custom = new QWidget;
-    custom->resize(300, 260);
-    auto *field = new QLineEdit(custom);
-    item->setCustomView(custom);
-    tabs->addTab(item, QStringLiteral("Custom"));
-    tabs->setWindowResizeMode(1);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    const QSize pageArea = tabs->currentWidget()->size();
-    const QPoint topLeft = window.geometry().topLeft();
-    field->setFocus();
-
-    tabs->setCurrentIndex(1);
-    QCOMPARE(window.size(), QSize(400 + 300 - pageArea.width(), 300 + 260 - pageArea.height()));
-    QCOMPARE(window.geometry().topLeft(), topLeft);
-    QVERIFY(custom->isVisible());
-    QCOMPARE(custom->parentWidget(), item);
-}
-
-void TestTabView::imageWidensTheLabel()
-{
-    ZARNTabView tabs;
-    auto *plain = new ZARNTabViewItem;
-    auto *withImage = new ZARNTabViewItem;
-    QImage star = brixeltest::filledImage({12, 12}, Qt::red);
-    withImage->setImage(star);
-    tabs.addTab(plain, QStringLiteral("Same"));
-    tabs.addTab(withImage, QStringLiteral("Same"));
-    tabs.resize(300, 200);
-    const int labelHeight = tabs.tabBar()->fontMetrics().height();
-    QCOMPARE(tabs.tabBar()->tabRect(1).width() - tabs.tabBar()->tabRect(0).width(), labelHeight + 2);
-    // An image given to a tab that exists widens it as well.
-    plain->setImage(star);
-    QCOMPARE(tabs.tabBar()->tabRect(0).width(), tabs.tabBar()->tabRect(1).width());
-}
-
-void TestTabView::nextResponderOfClass()
-{
-    ZARNTabView outer;
-    QTabWidget inner(&outer);
-    QWidget leaf(&inner);
-    // The exact class further up wins over a nearer subclass.
-    QCOMPARE(Brixel::nextResponderOfClass(&leaf, ZARNTabView::staticMetaObject), &outer);
-    QCOMPARE(Brixel::nextResponderOfClass(&leaf, QTabWidget::staticMetaObject), &inner);
-    QCOMPARE(Brixel::nextResponderOfClass(&inner, QTabWidget::staticMetaObject), &outer);
-    QCOMPARE(Brixel::nextResponderOfClass(&outer, QWidget::staticMetaObject), nullptr);
-    QCOMPARE(Brixel::nextResponderOfClass(nullptr, QWidget::staticMetaObject), nullptr);
-
-    QWidget box;
-    (new QWidget(&box))->setGeometry(10, 10, 30, 20);
-    (new QWidget(&box))->setGeometry(50, 5, 10, 50);
-    Brixel::sizeToFit(&box);
-    QCOMPARE(box.size(), QSize(60, 55));
-}
 
 QTEST_MAIN(TestTabView)
 #include "tst_tabview.moc"
