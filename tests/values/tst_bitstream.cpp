@@ -88,7 +88,8 @@ std::optional<qint64> apply(Stream &stream, const QString &operation)
         stream.setData(QByteArray::fromHex(operation.sliced(5).toLatin1()));
         return std::nullopt;
     }
-    const auto digits = std::find_if(operation.cbegin(), operation.cend(), [](QChar c) { return c == u'-' || c.isDigit(); });
+    const auto isArgument = [](QChar c) { return c == u'-' || c.isDigit(); };
+    const auto digits = std::find_if(operation.cbegin(), operation.cend(), isArgument);
     const QString name = QStringView(operation.cbegin(), digits).toString();
     const qint64 argument = QStringView(digits, operation.cend()).toLongLong();
     if (name == u"bit") return stream.readBit();
@@ -116,7 +117,8 @@ struct Comparison {
     ReferenceStream reference;
     QStringList done;
 
-    explicit Comparison(const QByteArray &bytes) : stream(bytes), reference(bytes), done{QString::fromLatin1(bytes.toHex())} { }
+    explicit Comparison(const QByteArray &bytes)
+        : stream(bytes), reference(bytes), done{QString::fromLatin1(bytes.toHex())} { }
     bool step(const QString &operation)
     {
         done << operation;
@@ -136,172 +138,168 @@ class TestBitstream : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void reads_data();
-    void reads();
-    void matchesBitAtATimeReading();
-    void longCodesAtEveryAlignment();
-    void movedFromStreamStaysReadable();
-};
+    void reads_data()
+    {
+        QTest::addColumn<std::optional<QByteArray>>("bytes");
+        QTest::addColumn<QString>("script");
+        QTest::addColumn<QList<qint64>>("values");
+        QTest::addColumn<qint64>("location");
 
-void TestBitstream::reads_data()
-{
-    QTest::addColumn<std::optional<QByteArray>>("bytes");
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<QList<qint64>>("values");
-    QTest::addColumn<qint64>("location");
-
-    const auto row = [](const char *name, const char *hex, const char *script, QList<qint64> values, qint64 location) {
-        QTest::newRow(name) << (hex ? std::optional(QByteArray::fromHex(hex)) : std::nullopt) << QString::fromLatin1(script)
-                            << values << location;
-    };
-    row("bits, nibble, byte, then nothing past the end", "a50f", "bit bit bit bit bits4 byte bit",
-        {1, 0, 1, 0, 5, 15, 0}, 16);
-    row("without data nothing reads or moves", nullptr, "loc3 len99 bit bits8 bytes4 ue se skip4", {0, 0, 0, 0, 0}, -1);
-    row("an empty buffer is data", "", "bit ue", {0, 0}, 0);
-    row("dropping the data", "ff", "skip3 nodata bit", {0}, -1);
-    row("zero bits read nothing", "ff", "bits0 bits-3", {0, 0}, 0);
-    row("a count beyond the end is clamped", "1234", "bits40", {0x1234}, 16);
-    row("over 32 bits skip first, then fold modulo 32", "0081000000010000", "bits40", {0x81}, 48);
-    row("a negative count with positive low bits reads them", "f8", "bits-4294967291", {31}, 5);
-    row("readBytes of one still reads four", "0102030405", "bytes1 byte", {0x01020304, 5}, 40);
-    row("readBytes beyond four skips the excess", "010203040506", "bytes6", {0x03040506}, 48);
-    row("readBytes of -1 moves back five bytes", "0102030405060708", "loc40 bytes-1", {0x01020304}, 32);
-    row("unsigned Exp-Golomb 1, 010, 011, 00100", "a640", "ue ue ue ue", {0, 1, 2, 3}, 12);
-    row("signed Exp-Golomb 010, 011, 00100, 00101", "4c85", "se se se se", {1, -1, 2, -2}, 16);
-    row("the widest Exp-Golomb code that fits 32 bits", "00000001fffffffe", "ue", {0xfffffffe}, 63);
-    row("an Exp-Golomb code of 32 zeros wraps", "000000008000000080", "ue", {0}, 65);
-    row("Exp-Golomb zeros running into the end stop there", "00", "ue ue", {255, 0}, 8);
-    row("zeros up to a length cut just before a one bit", "0000000000000001", "len63 ue", {0xffffffff}, 63);
-    row("a code cut by the length reads zeros for the rest", "00000001ffffffff", "len62 ue", {0xbffffffe}, 62);
-    row("skipping an Exp-Golomb code", "3c", "skipue bit", {1}, 6);
-    row("a skip past the end stops on the last bit", "0001", "skip100 bit bit", {1, 0}, 16);
-    row("skipBytes counts bytes", "00ff", "skipbytes1 skipbit bits3", {7}, 12);
-    row("a length past the buffer reads zeros", "ff", "len16 bits16", {0xff00}, 16);
-    row("a negative location reads zeros up to the data", "80", "loc-3 bits4", {1}, 1);
-    row("a location past the length reads nothing", "ff", "loc20 bit ue", {0, 0}, 20);
-    row("location arithmetic saturates", "ffff", "loc9223372036854775000 skip9223372036854775000 bit", {1}, 16);
-    row("one bit past the largest location saturates too", "ffff", "loc9223372036854775807 skip1 bit", {1}, 16);
-    row("reading backwards from far before the data", "01", "loc-9223372036854775807 ue", {0xffffffff}, 8);
-    row("a folded read at the lowest location and length", "ffffffffffffffff",
-        "len-9223372036854775808 loc-9223372036854775808 bits-4294967254", {0}, std::numeric_limits<qint64>::min());
-}
-
-void TestBitstream::reads()
-{
-    QFETCH(std::optional<QByteArray>, bytes);
-    QFETCH(QString, script);
-    QFETCH(QList<qint64>, values);
-    QFETCH(qint64, location);
-
-    ZARNBitstream stream = ZARNBitstream::bitstreamWithData(bytes);
-    QList<qint64> read;
-    for (const QString &operation : script.split(u' ', Qt::SkipEmptyParts)) {
-        if (const std::optional<qint64> value = apply(stream, operation))
-            read << *value;
-    }
-    QCOMPARE(read, values);
-    QCOMPARE(stream.location(), location);
-}
-
-// Codes with 0 to 31 leading zeros, written after every number of one-bit codes from 0 to
-// 63, so that each code length meets the look-ahead word at every alignment.
-void TestBitstream::longCodesAtEveryAlignment()
-{
-    for (int lead = 0; lead < 64; ++lead) {
-        QByteArray bytes;
-        qint64 written = 0;
-        const auto write = [&](quint64 bits, int count) {
-            for (int bit = count - 1; bit >= 0; --bit, ++written) {
-                if (written % 8 == 0)
-                    bytes.append('\0');
-                if (bit < 64 && ((bits >> bit) & 1))
-                    bytes[written / 8] = char(bytes[written / 8] | (0x80 >> (written % 8)));
-            }
+        const auto row = [](const char *name, const char *hex, const char *script, QList<qint64> values,
+                            qint64 location) {
+            const auto bytes = hex ? std::optional(QByteArray::fromHex(hex)) : std::nullopt;
+            QTest::newRow(name) << bytes << QString::fromLatin1(script) << values << location;
         };
-        QList<quint32> expected(lead, 0u);
-        write(~0ull, lead);
-        for (int zeros = 0; zeros < 32; ++zeros) {
-            const quint64 suffix = 0xB6DB6DB7u & ((quint64(1) << zeros) - 1);   // last bit set
-            write(0, zeros);
-            write((quint64(1) << zeros) | suffix, zeros + 1);
-            expected << quint32((quint64(1) << zeros) - 1 + suffix);
-        }
-        write(0, 128);   // room for full look-ahead loads after the last code
-        ZARNBitstream stream(bytes);
-        QList<quint32> read;
-        for (qsizetype code = 0; code < expected.size(); ++code)
-            read << stream.readExpGolomb();
-        QCOMPARE(read, expected);
+        row("bits, nibble, byte, then nothing past the end", "a50f", "bit bit bit bit bits4 byte bit",
+            {1, 0, 1, 0, 5, 15, 0}, 16);
+        row("without data nothing reads or moves", nullptr, "loc3 len99 bit bits8 bytes4 ue se skip4",
+            {0, 0, 0, 0, 0}, -1);
+        row("an empty buffer is data", "", "bit ue", {0, 0}, 0);
+        row("dropping the data", "ff", "skip3 nodata bit", {0}, -1);
+        row("zero bits read nothing", "ff", "bits0 bits-3", {0, 0}, 0);
+        row("a count beyond the end is clamped", "1234", "bits40", {0x1234}, 16);
+        row("over 32 bits skip first, then fold modulo 32", "0081000000010000", "bits40", {0x81}, 48);
+        row("a negative count with positive low bits reads them", "f8", "bits-4294967291", {31}, 5);
+        row("readBytes of one still reads four", "0102030405", "bytes1 byte", {0x01020304, 5}, 40);
+        row("readBytes beyond four skips the excess", "010203040506", "bytes6", {0x03040506}, 48);
+        row("readBytes of -1 moves back five bytes", "0102030405060708", "loc40 bytes-1", {0x01020304}, 32);
+        row("unsigned Exp-Golomb 1, 010, 011, 00100", "a640", "ue ue ue ue", {0, 1, 2, 3}, 12);
+        row("signed Exp-Golomb 010, 011, 00100, 00101", "4c85", "se se se se", {1, -1, 2, -2}, 16);
+        row("the widest Exp-Golomb code that fits 32 bits", "00000001fffffffe", "ue", {0xfffffffe}, 63);
+        row("an Exp-Golomb code of 32 zeros wraps", "000000008000000080", "ue", {0}, 65);
+        row("Exp-Golomb zeros running into the end stop there", "00", "ue ue", {255, 0}, 8);
+        row("zeros up to a length cut just before a one bit", "0000000000000001", "len63 ue", {0xffffffff}, 63);
+        row("a code cut by the length reads zeros for the rest", "00000001ffffffff", "len62 ue", {0xbffffffe}, 62);
+        row("skipping an Exp-Golomb code", "3c", "skipue bit", {1}, 6);
+        row("a skip past the end stops on the last bit", "0001", "skip100 bit bit", {1, 0}, 16);
+        row("skipBytes counts bytes", "00ff", "skipbytes1 skipbit bits3", {7}, 12);
+        row("a length past the buffer reads zeros", "ff", "len16 bits16", {0xff00}, 16);
+        row("a negative location reads zeros up to the data", "80", "loc-3 bits4", {1}, 1);
+        row("a location past the length reads nothing", "ff", "loc20 bit ue", {0, 0}, 20);
+        row("location arithmetic saturates", "ffff", "loc9223372036854775000 skip9223372036854775000 bit", {1}, 16);
+        row("one bit past the largest location saturates too", "ffff", "loc9223372036854775807 skip1 bit", {1}, 16);
+        row("reading backwards from far before the data", "01", "loc-9223372036854775807 ue", {0xffffffff}, 8);
+        row("a folded read at the lowest location and length", "ffffffffffffffff",
+            "len-9223372036854775808 loc-9223372036854775808 bits-4294967254", {0}, std::numeric_limits<qint64>::min());
     }
-}
 
-// A "moved" stream is copied, so both go on reading the shared buffer, also mid-code-run.
-void TestBitstream::movedFromStreamStaysReadable()
-{
-    ZARNBitstream source(QByteArray::fromHex("a640a640a640a640a640a640"));
-    QCOMPARE(source.readExpGolomb(), 0u);
-    ZARNBitstream moved(std::move(source));
-    moved = ZARNBitstream(std::move(source));
-    QCOMPARE(source.readExpGolomb(), 1u);
-    QCOMPARE(moved.readExpGolomb(), 1u);
-    QCOMPARE(source.location(), 4);
-}
+    void reads()
+    {
+        QFETCH(std::optional<QByteArray>, bytes);
+        QFETCH(QString, script);
+        QFETCH(QList<qint64>, values);
+        QFETCH(qint64, location);
 
-void TestBitstream::matchesBitAtATimeReading()
-{
-    QRandomGenerator random(20240515);
-    const auto randomBytes = [&](qsizetype size) {
-        QByteArray bytes(size, Qt::Uninitialized);
-        // Sparse bits make long Exp-Golomb codes.
-        const quint32 density = random.bounded(4);
+        ZARNBitstream stream = ZARNBitstream::bitstreamWithData(bytes);
+        QList<qint64> read;
+        for (const QString &operation : script.split(u' ', Qt::SkipEmptyParts)) {
+            if (const std::optional<qint64> value = apply(stream, operation))
+                read << *value;
+        }
+        QCOMPARE(read, values);
+        QCOMPARE(stream.location(), location);
+    }
+
+    void matchesBitAtATimeReading()
+    {
+        QRandomGenerator random(20240515);
+        const auto randomBytes = [&](qsizetype size) {
+            QByteArray bytes(size, Qt::Uninitialized);
+            // Sparse bits make long Exp-Golomb codes.
+            const quint32 density = random.bounded(4);
+            for (char &byte : bytes)
+                byte = char(random.generate() & (density == 0 ? 0x01 : density == 1 ? 0x11 : 0xff));
+            return bytes;
+        };
+        const QStringList others = u"bit byte ue se skipue skipbit skipbyte nodata"_s.split(u' ');
+        for (int sequence = 0; sequence < 10000; ++sequence) {
+            const QByteArray bytes = randomBytes(random.bounded(64));
+            const int bits = int(bytes.size()) * 8;
+            Comparison comparison(bytes);
+            for (int step = 0; step < 40; ++step) {
+                QString operation;
+                switch (random.bounded(11)) {
+                case 0: operation = u"bits%1"_s.arg(random.bounded(-40, 72)); break;
+                case 1: operation = u"bits%1"_s.arg(-(qint64(1) << 32) + random.bounded(40)); break;
+                case 2: operation = u"bytes%1"_s.arg(random.bounded(-3, 10)); break;
+                case 3: operation = u"skip%1"_s.arg(random.bounded(-90, 90)); break;
+                case 4: operation = u"skipbytes%1"_s.arg(random.bounded(-6, 6)); break;
+                // Positions and lengths near the ends of the buffer, where the word reads stop.
+                case 5: operation = u"loc%1"_s.arg(random.bounded(-70, bits + 20)); break;
+                case 6: operation = u"len%1"_s.arg(random.bounded(-10, bits + 80)); break;
+                case 7: operation = u"data:"_s + QString::fromLatin1(randomBytes(random.bounded(64)).toHex()); break;
+                // Runs of codes, which share a look-ahead.
+                case 8: operation = u"ue ue ue ue ue ue ue"_s.left(3 * random.bounded(1, 8) - 1); break;
+                default: operation = others[random.bounded(others.size())]; break;
+                }
+                for (const QString &part : operation.split(u' '))
+                    QVERIFY(comparison.step(part));
+            }
+        }
+
+        // Then every read from every location near a length cut anywhere in a buffer, so that the
+        // bits after the length are real data that must not show.
+        QByteArray bytes(24, Qt::Uninitialized);
         for (char &byte : bytes)
-            byte = char(random.generate() & (density == 0 ? 0x01 : density == 1 ? 0x11 : 0xff));
-        return bytes;
-    };
-    const QStringList others = u"bit byte ue se skipue skipbit skipbyte nodata"_s.split(u' ');
-    for (int sequence = 0; sequence < 10000; ++sequence) {
-        const QByteArray bytes = randomBytes(random.bounded(64));
-        const int bits = int(bytes.size()) * 8;
-        Comparison comparison(bytes);
-        for (int step = 0; step < 40; ++step) {
-            QString operation;
-            switch (random.bounded(11)) {
-            case 0: operation = u"bits%1"_s.arg(random.bounded(-40, 72)); break;
-            case 1: operation = u"bits%1"_s.arg(-(qint64(1) << 32) + random.bounded(40)); break;
-            case 2: operation = u"bytes%1"_s.arg(random.bounded(-3, 10)); break;
-            case 3: operation = u"skip%1"_s.arg(random.bounded(-90, 90)); break;
-            case 4: operation = u"skipbytes%1"_s.arg(random.bounded(-6, 6)); break;
-            // Positions and lengths near the ends of the buffer, where the word reads stop.
-            case 5: operation = u"loc%1"_s.arg(random.bounded(-70, bits + 20)); break;
-            case 6: operation = u"len%1"_s.arg(random.bounded(-10, bits + 80)); break;
-            case 7: operation = u"data:"_s + QString::fromLatin1(randomBytes(random.bounded(64)).toHex()); break;
-            // Runs of codes, which share a look-ahead.
-            case 8: operation = u"ue ue ue ue ue ue ue"_s.left(3 * random.bounded(1, 8) - 1); break;
-            default: operation = others[random.bounded(others.size())]; break;
+            byte = char(random.generate());
+        QStringList reads = u"ue skipue bytes3"_s.split(u' ');
+        for (int count = 1; count <= 40; ++count)
+            reads << u"bits%1"_s.arg(count);
+        for (int length = 0; length <= bytes.size() * 8; length += 3) {
+            for (int location = -70; location <= length + 2; ++location) {
+                for (const QString &read : std::as_const(reads)) {
+                    Comparison comparison(bytes);
+                    QVERIFY(comparison.step(u"len%1"_s.arg(length)) && comparison.step(u"loc%1"_s.arg(location))
+                            && comparison.step(read));
+                }
             }
-            for (const QString &part : operation.split(u' '))
-                QVERIFY(comparison.step(part));
         }
     }
 
-    // Then every read from every location near a length cut anywhere in a buffer, so that the
-    // bits after the length are real data that must not show.
-    QByteArray bytes(24, Qt::Uninitialized);
-    for (char &byte : bytes)
-        byte = char(random.generate());
-    QStringList reads = u"ue skipue bytes3"_s.split(u' ');
-    for (int count = 1; count <= 40; ++count)
-        reads << u"bits%1"_s.arg(count);
-    for (int length = 0; length <= bytes.size() * 8; length += 3) {
-        for (int location = -70; location <= length + 2; ++location) {
-            for (const QString &read : std::as_const(reads)) {
-                Comparison comparison(bytes);
-                QVERIFY(comparison.step(u"len%1"_s.arg(length)) && comparison.step(u"loc%1"_s.arg(location))
-                        && comparison.step(read));
+    // Codes with 0 to 31 leading zeros, written after every number of one-bit codes from 0 to
+    // 63, so that each code length meets the look-ahead word at every alignment.
+    void longCodesAtEveryAlignment()
+    {
+        for (int lead = 0; lead < 64; ++lead) {
+            QByteArray bytes;
+            qint64 written = 0;
+            const auto write = [&](quint64 bits, int count) {
+                for (int bit = count - 1; bit >= 0; --bit, ++written) {
+                    if (written % 8 == 0)
+                        bytes.append('\0');
+                    if (bit < 64 && ((bits >> bit) & 1))
+                        bytes[written / 8] = char(bytes[written / 8] | (0x80 >> (written % 8)));
+                }
+            };
+            QList<quint32> expected(lead, 0u);
+            write(~0ull, lead);
+            for (int zeros = 0; zeros < 32; ++zeros) {
+                const quint64 suffix = 0xB6DB6DB7u & ((quint64(1) << zeros) - 1);   // last bit set
+                write(0, zeros);
+                write((quint64(1) << zeros) | suffix, zeros + 1);
+                expected << quint32((quint64(1) << zeros) - 1 + suffix);
             }
+            write(0, 128);   // room for full look-ahead loads after the last code
+            ZARNBitstream stream(bytes);
+            QList<quint32> read;
+            for (qsizetype code = 0; code < expected.size(); ++code)
+                read << stream.readExpGolomb();
+            QCOMPARE(read, expected);
         }
     }
-}
+
+    // A "moved" stream is copied, so both go on reading the shared buffer, also mid-code-run.
+    void movedFromStreamStaysReadable()
+    {
+        ZARNBitstream source(QByteArray::fromHex("a640a640a640a640a640a640"));
+        QCOMPARE(source.readExpGolomb(), 0u);
+        ZARNBitstream moved(std::move(source));
+        moved = ZARNBitstream(std::move(source));
+        QCOMPARE(source.readExpGolomb(), 1u);
+        QCOMPARE(moved.readExpGolomb(), 1u);
+        QCOMPARE(source.location(), 4);
+    }
+};
 
 QTEST_GUILESS_MAIN(TestBitstream)
 #include "tst_bitstream.moc"

@@ -60,79 +60,74 @@ class TestSystemFacts : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void cleanup() { ZARNNetworkInterfaces::setCurrent(nullptr); }
-    void uniqueStringAndProcessID();
-    void macAddress_data();
-    void macAddress();
-    void macAddressOfThisMachine();
-    void tempNames();
+
+    void uniqueStringAndProcessID()
+    {
+        static const QRegularExpression form(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s);
+        const QString first = Brixel::ZARNUniqueString();
+        QVERIFY2(form.match(first).hasMatch(), qPrintable(first));
+        QVERIFY(Brixel::ZARNUniqueString() != first);
+        QCOMPARE(Brixel::ZARNProcessIDString(), QString::number(getpid()));
+    }
+
+    void macAddress_data()
+    {
+        QTest::addColumn<QString>("interfaces");
+        QTest::addColumn<QString>("route");
+        QTest::addColumn<quint32>("error");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<QString>("printed");
+
+        const QString ethernet = u"eth0 000A959D6816"_s;
+        QTest::newRow("bytes unpadded, upper case") << ethernet << QString() << 0u << u"0A959D6816"_s << QString();
+        QTest::newRow("default-route interface wins") << u"eth0 0102030405FF, wlan0 A0B0C0D0E0F0"_s << u"wlan0"_s << 0u
+                                                      << u"A0B0C0D0E0F0"_s << QString();
+        QTest::newRow("routed interface without an address is passed over")
+            << u"tun0, eth0 0102030405FF"_s << u"tun0"_s << 0u << u"12345FF"_s << QString();
+        QTest::newRow("loopback, short and zero addresses passed over; six bytes of a longer one")
+            << u"lo 00000000000A loopback, sit0 00000001, eth1 000000000000, ib0 1122334455667788"_s << QString() << 0u
+            << u"112233445566"_s << QString();
+        QTest::newRow("no usable address prints the parent line")
+            << u"lo 000000000000 loopback, eth0 000000000000"_s << u"eth0"_s << 0u << u"testhost"_s
+            << u"IORegistryEntryGetParentEntry returned 0x00000013\n"_s;
+        QTest::newRow("loopback alone is silent") << u"lo 000000000000 loopback"_s << QString() << 0u << u"testhost"_s
+                                                  << QString();
+        QTest::newRow("unreadable list prints the error") << ethernet << QString() << 0xE00002C7u << u"testhost"_s
+                                                          << u"IOServiceGetMatchingServices returned 0xe00002c7\n"_s;
+    }
+
+    void macAddress()
+    {
+        QFETCH(QString, interfaces);
+        QFETCH(QString, route);
+        QFETCH(quint32, error);
+        QFETCH(QString, expected);
+        QFETCH(QString, printed);
+
+        ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(interfaces, route, error));
+        QString address;
+        QCOMPARE(standardOutputOf([&address] { address = Brixel::ZARNMACAddressString(); }), printed);
+        QCOMPARE(address, expected);
+    }
+
+    void macAddressOfThisMachine()
+    {
+        static const QRegularExpression hex(u"^[0-9A-F]{6,12}$"_s);
+        const QString address = Brixel::ZARNMACAddressString();
+        QVERIFY2(hex.match(address).hasMatch() || address == ZARNNetworkInterfaces::system().hostName(),
+                 qPrintable(address));
+    }
+
+    // The only test that takes file names, so the counter starts at 1 here.
+    void tempNames()
+    {
+        ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(u"eth0 000A959D6816"_s, QString()));
+        const QString prefix = u".Corvel-Temp-0A959D6816-"_s + QString::number(getpid());
+        QCOMPARE(Brixel::ZARNTempFolderName(), prefix);
+        QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-1"_s);
+        QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-2"_s);
+    }
 };
-
-void TestSystemFacts::uniqueStringAndProcessID()
-{
-    static const QRegularExpression form(u"^[0-9A-F]{8}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{4}-[0-9A-F]{12}$"_s);
-    const QString first = Brixel::ZARNUniqueString();
-    QVERIFY2(form.match(first).hasMatch(), qPrintable(first));
-    QVERIFY(Brixel::ZARNUniqueString() != first);
-    QCOMPARE(Brixel::ZARNProcessIDString(), QString::number(getpid()));
-}
-
-void TestSystemFacts::macAddress_data()
-{
-    QTest::addColumn<QString>("interfaces");
-    QTest::addColumn<QString>("route");
-    QTest::addColumn<quint32>("error");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<QString>("printed");
-
-    const QString ethernet = u"eth0 000A959D6816"_s;
-    QTest::newRow("bytes unpadded, upper case") << ethernet << QString() << 0u << u"0A959D6816"_s << QString();
-    QTest::newRow("default-route interface wins") << u"eth0 0102030405FF, wlan0 A0B0C0D0E0F0"_s << u"wlan0"_s << 0u
-                                                  << u"A0B0C0D0E0F0"_s << QString();
-    QTest::newRow("routed interface without an address is passed over")
-        << u"tun0, eth0 0102030405FF"_s << u"tun0"_s << 0u << u"12345FF"_s << QString();
-    QTest::newRow("loopback, short and zero addresses passed over; six bytes of a longer one")
-        << u"lo 00000000000A loopback, sit0 00000001, eth1 000000000000, ib0 1122334455667788"_s << QString() << 0u
-        << u"112233445566"_s << QString();
-    QTest::newRow("no usable address prints the parent line")
-        << u"lo 000000000000 loopback, eth0 000000000000"_s << u"eth0"_s << 0u << u"testhost"_s
-        << u"IORegistryEntryGetParentEntry returned 0x00000013\n"_s;
-    QTest::newRow("loopback alone is silent") << u"lo 000000000000 loopback"_s << QString() << 0u << u"testhost"_s
-                                              << QString();
-    QTest::newRow("unreadable list prints the error") << ethernet << QString() << 0xE00002C7u << u"testhost"_s
-                                                      << u"IOServiceGetMatchingServices returned 0xe00002c7\n"_s;
-}
-
-void TestSystemFacts::macAddress()
-{
-    QFETCH(QString, interfaces);
-    QFETCH(QString, route);
-    QFETCH(quint32, error);
-    QFETCH(QString, expected);
-    QFETCH(QString, printed);
-
-    ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(interfaces, route, error));
-    QString address;
-    QCOMPARE(standardOutputOf([&address] { address = Brixel::ZARNMACAddressString(); }), printed);
-    QCOMPARE(address, expected);
-}
-
-void TestSystemFacts::macAddressOfThisMachine()
-{
-    static const QRegularExpression hex(u"^[0-9A-F]{6,12}$"_s);
-    const QString address = Brixel::ZARNMACAddressString();
-    QVERIFY2(hex.match(address).hasMatch() || address == ZARNNetworkInterfaces::system().hostName(),
-             qPrintable(address));
-}
-
-// The only test that takes file names, so the counter starts at 1 here.
-void TestSystemFacts::tempNames()
-{
-    ZARNNetworkInterfaces::setCurrent(std::make_unique<FakeInterfaces>(u"eth0 000A959D6816"_s, QString()));
-    const QString prefix = u".Corvel-Temp-0A959D6816-"_s + QString::number(getpid());
-    QCOMPARE(Brixel::ZARNTempFolderName(), prefix);
-    QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-1"_s);
-    QCOMPARE(Brixel::ZARNTempFileName(), prefix + u"-2"_s);
-}
 
 QTEST_GUILESS_MAIN(TestSystemFacts)
 #include "tst_systemfacts.moc"
