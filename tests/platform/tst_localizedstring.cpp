@@ -24,23 +24,21 @@ class TestLocalizedString : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void lookUp();
+    void lookUp()
+    {
+        QCOMPARE(Brixel::ZARNLocalizedString(""), QString());
+        QCOMPARE(Brixel::ZARNLocalizedString(nullptr), QString());
+        QVERIFY(!Brixel::ZARNLoadTranslations(QLocale(QLocale::Zulu)));   // an unknown language loads nothing
+        QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));   // a missing entry gives its key
+
+        HoursTranslator translator;
+        QCoreApplication::installTranslator(&translator);
+        QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
+        QCOMPARE(Brixel::ZARNLocalizedString("days"), QStringLiteral("days"));
+        QCoreApplication::removeTranslator(&translator);
+        QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));
+    }
 };
-
-void TestLocalizedString::lookUp()
-{
-    QCOMPARE(Brixel::ZARNLocalizedString(""), QString());
-    QCOMPARE(Brixel::ZARNLocalizedString(nullptr), QString());
-    QVERIFY(!Brixel::ZARNLoadTranslations(QLocale(QLocale::Zulu)));   // an unknown language loads nothing
-    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));   // a missing entry gives its key
-
-    HoursTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
-    QCOMPARE(Brixel::ZARNLocalizedString("days"), QStringLiteral("days"));
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));
-}
 
 QTEST_GUILESS_MAIN(TestLocalizedString)
 #include "tst_localizedstring.moc"
