@@ -55,95 +55,90 @@ class TestAttributedStringDrawing : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void emptyTextIsOneLineOfItsFont();
-    void alignsEachParagraph_data();
-    void alignsEachParagraph();
-    void drawsOnlyLinesStartingInsideTheRectangle_data();
-    void drawsOnlyLinesStartingInsideTheRectangle();
+
+    void emptyTextIsOneLineOfItsFont()
+    {
+        const ZARNAttributedTextLayout plain(QString(), bigFont(), Qt::black, Qt::AlignLeft);
+        QCOMPARE(plain.width(), 0.0);
+        QCOMPARE(plain.height(), lineHeight());
+        // An empty attributed string has no runs and so no font but the application's.
+        QCOMPARE(ZARNAttributedTextLayout(ZARNAttributedString(), 100).height(), lineHeight(QFont()));
+    }
+
+    void alignsEachParagraph_data()
+    {
+        QTest::addColumn<ZARNAttributedString>("string");
+        QTest::addColumn<QList<Qt::Alignment>>("lineAlignments");
+
+        using Alignments = QList<Qt::Alignment>;
+        QTest::newRow("left") << text(u"Wx"_s, Qt::AlignLeft) << Alignments{Qt::AlignLeft};
+        QTest::newRow("no alignment is left") << ZARNAttributedString(u"Wx"_s, {{ZARNFontAttributeName, bigFont()}})
+                                              << Alignments{Qt::AlignLeft};
+        QTest::newRow("right") << text(u"Wx"_s, Qt::AlignRight) << Alignments{Qt::AlignRight};
+        QTest::newRow("centred") << text(u"Wx"_s, Qt::AlignHCenter) << Alignments{Qt::AlignHCenter};
+        const QVariantMap rightAsInt{{ZARNFontAttributeName, bigFont()},
+                                     {ZARNParagraphAlignmentAttributeName, int(Qt::AlignRight | Qt::AlignTop)}};
+        QTest::newRow("alignment stored as int")
+            << ZARNAttributedString(u"Wx"_s, rightAsInt) << Alignments{Qt::AlignRight};
+        ZARNAttributedString mixed = text(u"Wx\n"_s, Qt::AlignRight);
+        mixed.append(text(u"Wx\n"_s, Qt::AlignHCenter));
+        mixed.append(text(u"Wx"_s, Qt::AlignLeft));
+        QTest::newRow("each paragraph its own") << mixed << Alignments{Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft};
+    }
+
+    void alignsEachParagraph()
+    {
+        QFETCH(ZARNAttributedString, string);
+        QFETCH(QList<Qt::Alignment>, lineAlignments);
+
+        const QRectF rect(30, 10, 300, 180);
+        const QImage image = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, string, rect); });
+        const QFontMetricsF metrics(bigFont());
+        const qreal advance = metrics.horizontalAdvance(u"Wx"_s);
+        for (int line = 0; line < lineAlignments.size(); ++line) {
+            const QImage band = image.copy(0, int(rect.y() + line * lineHeight()), image.width(), int(lineHeight()));
+            const QRect ink = brixeltest::pixelBounds(band, isInk);
+            QVERIFY2(!ink.isNull(), qPrintable(u"line %1 drew nothing"_s.arg(line)));
+            const Qt::Alignment alignment = lineAlignments.at(line);
+            const qreal expectedLeft = rect.x()
+                + (alignment == Qt::AlignRight ? rect.width() - advance
+                   : alignment == Qt::AlignHCenter ? (rect.width() - advance) / 2 : 0);
+            // The glyphs' ink starts at most a few pixels of side bearing inside the advance.
+            QCOMPARE_GE(ink.left(), int(expectedLeft) - 1);
+            QCOMPARE_LE(ink.left(), int(expectedLeft) + 4);
+            QCOMPARE_LE(ink.right(), int(std::ceil(expectedLeft + advance)) + 1);
+        }
+    }
+
+    void drawsOnlyLinesStartingInsideTheRectangle_data()
+    {
+        QTest::addColumn<QRectF>("rect");
+        QTest::addColumn<int>("linesDrawn");
+
+        const qreal spacing = lineHeight();
+        QTest::newRow("room for all") << QRectF(10, 10, 300, 3 * spacing) << 3;
+        QTest::newRow("third line starts at the bottom") << QRectF(10, 10, 300, 2 * spacing) << 2;
+        QTest::newRow("third line starts just inside") << QRectF(10, 10, 300, 2 * spacing + 1) << 3;
+        QTest::newRow("zero height") << QRectF(10, 10, 300, 0) << 0;
+        QTest::newRow("NaN") << QRectF(10, qQNaN(), 300, 100) << 0;
+        QTest::newRow("infinite width") << QRectF(10, 10, qInf(), 100) << 0;
+    }
+
+    void drawsOnlyLinesStartingInsideTheRectangle()
+    {
+        QFETCH(QRectF, rect);
+        QFETCH(int, linesDrawn);
+
+        const QImage image = render([&](QPainter &painter) {
+            Brixel::drawAttributedString(painter, text(u"Ww\nWw\nWw"_s), rect, false);
+        });
+        const qreal spacing = lineHeight();
+        for (int line = 0; line < 3; ++line) {
+            const QImage band = image.copy(0, int(10 + line * spacing + 2), image.width(), int(spacing) - 4);
+            QCOMPARE(!brixeltest::pixelBounds(band, isInk).isNull(), line < linesDrawn);
+        }
+    }
 };
-
-void TestAttributedStringDrawing::emptyTextIsOneLineOfItsFont()
-{
-    const ZARNAttributedTextLayout plain(QString(), bigFont(), Qt::black, Qt::AlignLeft);
-    QCOMPARE(plain.width(), 0.0);
-    QCOMPARE(plain.height(), lineHeight());
-    // An empty attributed string has no runs and so no font but the application's.
-    QCOMPARE(ZARNAttributedTextLayout(ZARNAttributedString(), 100).height(), lineHeight(QFont()));
-}
-
-void TestAttributedStringDrawing::alignsEachParagraph_data()
-{
-    QTest::addColumn<ZARNAttributedString>("string");
-    QTest::addColumn<QList<Qt::Alignment>>("lineAlignments");
-
-    QTest::newRow("left") << text(u"Wx"_s, Qt::AlignLeft) << QList<Qt::Alignment>{Qt::AlignLeft};
-    QTest::newRow("no alignment is left") << ZARNAttributedString(u"Wx"_s, {{ZARNFontAttributeName, bigFont()}})
-                                          << QList<Qt::Alignment>{Qt::AlignLeft};
-    QTest::newRow("right") << text(u"Wx"_s, Qt::AlignRight) << QList<Qt::Alignment>{Qt::AlignRight};
-    QTest::newRow("centred") << text(u"Wx"_s, Qt::AlignHCenter) << QList<Qt::Alignment>{Qt::AlignHCenter};
-    QTest::newRow("alignment stored as int")
-        << ZARNAttributedString(u"Wx"_s, {{ZARNFontAttributeName, bigFont()},
-                                          {ZARNParagraphAlignmentAttributeName, int(Qt::AlignRight | Qt::AlignTop)}})
-        << QList<Qt::Alignment>{Qt::AlignRight};
-    ZARNAttributedString mixed = text(u"Wx\n"_s, Qt::AlignRight);
-    mixed.append(text(u"Wx\n"_s, Qt::AlignHCenter));
-    mixed.append(text(u"Wx"_s, Qt::AlignLeft));
-    QTest::newRow("each paragraph its own") << mixed
-                                            << QList<Qt::Alignment>{Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft};
-}
-
-void TestAttributedStringDrawing::alignsEachParagraph()
-{
-    QFETCH(ZARNAttributedString, string);
-    QFETCH(QList<Qt::Alignment>, lineAlignments);
-
-    const QRectF rect(30, 10, 300, 180);
-    const QImage image = render([&](QPainter &painter) { Brixel::drawAttributedString(painter, string, rect); });
-    const QFontMetricsF metrics(bigFont());
-    const qreal advance = metrics.horizontalAdvance(u"Wx"_s);
-    for (int line = 0; line < lineAlignments.size(); ++line) {
-        const QImage band = image.copy(0, int(rect.y() + line * lineHeight()), image.width(), int(lineHeight()));
-        const QRect ink = brixeltest::pixelBounds(band, isInk);
-        QVERIFY2(!ink.isNull(), qPrintable(u"line %1 drew nothing"_s.arg(line)));
-        const Qt::Alignment alignment = lineAlignments.at(line);
-        const qreal expectedLeft = rect.x()
-            + (alignment == Qt::AlignRight ? rect.width() - advance
-               : alignment == Qt::AlignHCenter ? (rect.width() - advance) / 2 : 0);
-        // The glyphs' ink starts at most a few pixels of side bearing inside the advance.
-        QCOMPARE_GE(ink.left(), int(expectedLeft) - 1);
-        QCOMPARE_LE(ink.left(), int(expectedLeft) + 4);
-        QCOMPARE_LE(ink.right(), int(std::ceil(expectedLeft + advance)) + 1);
-    }
-}
-
-void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle_data()
-{
-    QTest::addColumn<QRectF>("rect");
-    QTest::addColumn<int>("linesDrawn");
-
-    const qreal spacing = lineHeight();
-    QTest::newRow("room for all") << QRectF(10, 10, 300, 3 * spacing) << 3;
-    QTest::newRow("third line starts at the bottom") << QRectF(10, 10, 300, 2 * spacing) << 2;
-    QTest::newRow("third line starts just inside") << QRectF(10, 10, 300, 2 * spacing + 1) << 3;
-    QTest::newRow("zero height") << QRectF(10, 10, 300, 0) << 0;
-    QTest::newRow("NaN") << QRectF(10, qQNaN(), 300, 100) << 0;
-    QTest::newRow("infinite width") << QRectF(10, 10, qInf(), 100) << 0;
-}
-
-void TestAttributedStringDrawing::drawsOnlyLinesStartingInsideTheRectangle()
-{
-    QFETCH(QRectF, rect);
-    QFETCH(int, linesDrawn);
-
-    const QImage image = render([&](QPainter &painter) {
-        Brixel::drawAttributedString(painter, text(u"Ww\nWw\nWw"_s), rect, false);
-    });
-    const qreal spacing = lineHeight();
-    for (int line = 0; line < 3; ++line) {
-        const QImage band = image.copy(0, int(10 + line * spacing + 2), image.width(), int(spacing) - 4);
-        QCOMPARE(!brixeltest::pixelBounds(band, isInk).isNull(), line < linesDrawn);
-    }
-}
 
 QTEST_MAIN(TestAttributedStringDrawing)
 #include "tst_attributedstringdrawing.moc"
