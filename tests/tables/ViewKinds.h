@@ -99,7 +99,10 @@ struct AnyView
     }
 
     ZARNTableView *table() const { return kind == Kind::Table ? static_cast<ZARNTableView *>(view.get()) : nullptr; }
-    ZARNOutlineView *outline() const { return kind == Kind::Outline ? static_cast<ZARNOutlineView *>(view.get()) : nullptr; }
+    ZARNOutlineView *outline() const
+    {
+        return kind == Kind::Outline ? static_cast<ZARNOutlineView *>(view.get()) : nullptr;
+    }
     QAbstractItemView *operator->() const { return view.get(); }
 
     template<typename Call>
@@ -144,7 +147,8 @@ inline void selectRows(QAbstractItemView &view, const QList<int> &rows)
 {
     view.selectionModel()->clearSelection();
     for (int row : rows)
-        view.selectionModel()->select(view.model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        view.selectionModel()->select(view.model()->index(row, 0),
+                                      QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 /// Shows \a view at \a size and waits until it is on screen.

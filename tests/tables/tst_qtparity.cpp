@@ -59,7 +59,10 @@ public:
 class NoticeCounter : public ZARNTableViewDelegate
 {
 public:
-    void tableViewWillDisplayCell(ZARNTableView *, QAbstractItemDelegate *, ZARNTableColumn *, int) override { ++notices; }
+    void tableViewWillDisplayCell(ZARNTableView *, QAbstractItemDelegate *, ZARNTableColumn *, int) override
+    {
+        ++notices;
+    }
     int notices = 0;
 };
 
@@ -114,195 +117,188 @@ class TestQtParity : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() { brixeltest::useTestFont(); }
-    void tablePaintsWhatQTableViewPaints();
-    void outlinePaintsWhatQTreeViewPaints();
-    void noticesReachEveryColumn();
-    void headerClickSortsAndSelects();
-    void hidingATallColumnLaysRowsOut();
-    void wrappedRowsFollowWidthsOnceAResizeSettles();
-    void alternateRowsAreFilled();
-};
 
-// The same cells, once each, with the same option flags: a 2 x 2 span paints its anchor only,
-// and of 200 columns only those in the viewport are painted.
-void TestQtParity::tablePaintsWhatQTableViewPaints()
-{
-    QStandardItemModel model;
-    fill(model, 6, 200);
-    SpyDelegate spy;
-    QTableView qtView;
-    ZARNTableView view;
-    for (QTableView *table : {&qtView, static_cast<QTableView *>(&view)}) {
-        prepare(*table, model, spy, {300, 200});
-        table->setSpan(1, 1, 2, 2);
-        table->selectionModel()->select(model.index(3, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        hover(*table, table->visualRect(model.index(4, 1)).center());
-    }
-    model.item(5, 0)->setEnabled(false);
-    const QStringList expected = paintedCells(qtView, spy);
-    verifyPaintedAmong(expected, {u"-1/1:1 pos0 alt1 sel0 sib0 kids0 open0 en1 hover0 group0"_s,
-                                  u"-1/4:1 pos0 alt0 sel0 sib0 kids0 open0 en1 hover1 group0"_s,
-                                  u"-1/5:0 pos0 alt1 sel0 sib0 kids0 open0 en0 hover0 group1"_s});
-    QVERIFY(!expected.join(u' ').contains(u"-1/2:2 "_s));
-    QVERIFY(expected.size() < 60);
-    QCOMPARE(paintedCells(view, spy), expected);
-
-    view.horizontalScrollBar()->setValue(3);
-    qtView.horizontalScrollBar()->setValue(3);
-    QCOMPARE(paintedCells(view, spy), paintedCells(qtView, spy));
-
-    // Right to left every column is drawn: at least the cells Qt draws.
-    view.setLayoutDirection(Qt::RightToLeft);
-    qtView.setLayoutDirection(Qt::RightToLeft);
-    const QStringList rightToLeft = paintedCells(qtView, spy);
-    QVERIFY(!rightToLeft.isEmpty());
-    const QStringList ours = paintedCells(view, spy);
-    QVERIFY(QSet(ours.cbegin(), ours.cend()).contains(QSet(rightToLeft.cbegin(), rightToLeft.cend())));
-}
-
-// Positions in the row, alternate rows, the branch states and a first-column-spanned row.
-void TestQtParity::outlinePaintsWhatQTreeViewPaints()
-{
-    QStandardItemModel model;
-    fill(model, 4, 3, true);
-    SpyDelegate spy;
-    QTreeView qtView;
-    ZARNOutlineView view;
-    for (QTreeView *tree : {&qtView, static_cast<QTreeView *>(&view)}) {
-        prepare(*tree, model, spy, {400, 300});
-        tree->expandAll();
-        tree->setFirstColumnSpanned(2, {}, true);
-        tree->selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        tree->setSelectionBehavior(QAbstractItemView::SelectRows);
-        hover(*tree, tree->visualRect(model.index(3, 2)).center());
-    }
-    model.item(3, 1)->setEnabled(false);
-    const QStringList expected = paintedCells(qtView, spy);
-    verifyPaintedAmong(expected, {u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s,
-                                  u"-1/3:0 pos1 alt1 sel0 sib0 kids0 open1 en1 hover1 group2"_s,
-                                  u"-1/3:1 pos2 alt1 sel0 sib0 kids0 open1 en0 hover1 group1"_s});
-    QCOMPARE(paintedCells(view, spy), expected);
-
-    // The spanned row's one cell reaches across the row.
-    brixeltest::renderWidget(*view.viewport());
-    const qsizetype spanned = spy.painted.indexOf(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s);
-    QVERIFY(spanned >= 0);
-    QCOMPARE(spy.rects[spanned].right(), view.header()->length() - 1);
-}
-
-// Drawing skips cells outside the viewport, but the delegate still hears of every column.
-void TestQtParity::noticesReachEveryColumn()
-{
-    QStandardItemModel model;
-    fill(model, 3, 200);
-    SpyDelegate spy;
-    ZARNTableView view;
-    prepare(view, model, spy, {300, 200});
-    NoticeCounter counter;
-    view.setDelegate(&counter);
-    QVERIFY(paintedCells(view, spy).size() < 20);
-    QCOMPARE(counter.notices, 3 * 200);
-}
-
-// As under QTableView, a click on a sortable table's header sorts by that column, and with
-// items selectable a press selects the column.
-void TestQtParity::headerClickSortsAndSelects()
-{
-    QTableView qtView;
-    ZARNTableView view;
-    for (QTableView *table : {&qtView, static_cast<QTableView *>(&view)}) {
+    // The same cells, once each, with the same option flags: a 2 x 2 span paints its anchor only,
+    // and of 200 columns only those in the viewport are painted.
+    void tablePaintsWhatQTableViewPaints()
+    {
         QStandardItemModel model;
-        for (const QString &text : {u"b"_s, u"c"_s, u"a"_s})
-            model.appendRow({new QStandardItem(text), new QStandardItem(text)});
-        table->setModel(&model);
-        table->setSelectionMode(QAbstractItemView::ExtendedSelection);
-        table->setSelectionBehavior(QAbstractItemView::SelectItems);
-        viewkinds::showView(*table, {300, 200});
-        QHeaderView *header = table->horizontalHeader();
-        const QPoint secondSection(header->sectionViewportPosition(1) + 10, header->height() / 2);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, secondSection);
-        QVERIFY(table->selectionModel()->isColumnSelected(1));
+        fill(model, 6, 200);
+        SpyDelegate spy;
+        QTableView qtView;
+        ZARNTableView view;
+        for (QTableView *table : {&qtView, static_cast<QTableView *>(&view)}) {
+            prepare(*table, model, spy, {300, 200});
+            table->setSpan(1, 1, 2, 2);
+            table->selectionModel()->select(model.index(3, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            hover(*table, table->visualRect(model.index(4, 1)).center());
+        }
+        model.item(5, 0)->setEnabled(false);
+        const QStringList expected = paintedCells(qtView, spy);
+        verifyPaintedAmong(expected, {u"-1/1:1 pos0 alt1 sel0 sib0 kids0 open0 en1 hover0 group0"_s,
+                                      u"-1/4:1 pos0 alt0 sel0 sib0 kids0 open0 en1 hover1 group0"_s,
+                                      u"-1/5:0 pos0 alt1 sel0 sib0 kids0 open0 en0 hover0 group1"_s});
+        QVERIFY(!expected.join(u' ').contains(u"-1/2:2 "_s));
+        QVERIFY(expected.size() < 60);
+        QCOMPARE(paintedCells(view, spy), expected);
 
-        table->setSortingEnabled(true);
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, secondSection, 500);
-        QCOMPARE(header->sortIndicatorSection(), 1);
-        QCOMPARE(model.item(0)->text(), header->sortIndicatorOrder() == Qt::AscendingOrder ? u"a"_s : u"c"_s);
-        table->setModel(nullptr);
+        view.horizontalScrollBar()->setValue(3);
+        qtView.horizontalScrollBar()->setValue(3);
+        QCOMPARE(paintedCells(view, spy), paintedCells(qtView, spy));
+
+        // Right to left every column is drawn: at least the cells Qt draws.
+        view.setLayoutDirection(Qt::RightToLeft);
+        qtView.setLayoutDirection(Qt::RightToLeft);
+        const QStringList rightToLeft = paintedCells(qtView, spy);
+        QVERIFY(!rightToLeft.isEmpty());
+        const QStringList ours = paintedCells(view, spy);
+        QVERIFY(QSet(ours.cbegin(), ours.cend()).contains(QSet(rightToLeft.cbegin(), rightToLeft.cend())));
     }
-}
 
-// The outline's rows lose a hidden tall column's height and get it back when it is shown.
-void TestQtParity::hidingATallColumnLaysRowsOut()
-{
-    QStandardItemModel model;
-    fill(model, 3, 3);
-    model.setHorizontalHeaderLabels({u"Name"_s, u"Tall"_s, u"Kind"_s});
-    SpyDelegate spy;
-    spy.tallColumn = 1;
-    ZARNOutlineView view;
-    prepare(view, model, spy, {400, 300});
-    QCOMPARE(view.visualRect(model.index(0, 0)).height(), 60);
+    // Positions in the row, alternate rows, the branch states and a first-column-spanned row.
+    void outlinePaintsWhatQTreeViewPaints()
+    {
+        QStandardItemModel model;
+        fill(model, 4, 3, true);
+        SpyDelegate spy;
+        QTreeView qtView;
+        ZARNOutlineView view;
+        for (QTreeView *tree : {&qtView, static_cast<QTreeView *>(&view)}) {
+            prepare(*tree, model, spy, {400, 300});
+            tree->expandAll();
+            tree->setFirstColumnSpanned(2, {}, true);
+            tree->selectionModel()->select(model.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            tree->setSelectionBehavior(QAbstractItemView::SelectRows);
+            hover(*tree, tree->visualRect(model.index(3, 2)).center());
+        }
+        model.item(3, 1)->setEnabled(false);
+        const QStringList expected = paintedCells(qtView, spy);
+        verifyPaintedAmong(expected, {u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s,
+                                      u"-1/3:0 pos1 alt1 sel0 sib0 kids0 open1 en1 hover1 group2"_s,
+                                      u"-1/3:1 pos2 alt1 sel0 sib0 kids0 open1 en0 hover1 group1"_s});
+        QCOMPARE(paintedCells(view, spy), expected);
 
-    view.hideColumnWithIdentifier(u"Tall"_s);
-    QVERIFY(view.visualRect(model.index(0, 0)).height() < 60);
-    view.showColumnWithIdentifier(u"Tall"_s);
-    QCOMPARE(view.visualRect(model.index(0, 0)).height(), 60);
-}
+        // The spanned row's one cell reaches across the row.
+        brixeltest::renderWidget(*view.viewport());
+        const qsizetype spanned = spy.painted.indexOf(u"-1/2:0 pos4 alt0 sel0 sib1 kids0 open1 en1 hover0 group2"_s);
+        QVERIFY(spanned >= 0);
+        QCOMPARE(spy.rects[spanned].right(), view.header()->length() - 1);
+    }
 
-// Rows as tall as their first column is wide stand for rows of wrapped text: they are laid
-// out again once a resize that changed a column's width settles, and only while words wrap.
-void TestQtParity::wrappedRowsFollowWidthsOnceAResizeSettles()
-{
-    QStandardItemModel model;
-    fill(model, 3, 2);
-    SpyDelegate spy;
-    ZARNOutlineView view;
-    spy.rowHeight = [&view] { return view.header()->sectionSize(0) / 4; };
-    prepare(view, model, spy, {400, 300});
-    view.setWordWrap(true);
-    const auto rowHeight = [&] { return view.visualRect(model.index(0, 0)).height(); };
-    const auto widenAndResize = [&] {
+    // Drawing skips cells outside the viewport, but the delegate still hears of every column.
+    void noticesReachEveryColumn()
+    {
+        QStandardItemModel model;
+        fill(model, 3, 200);
+        SpyDelegate spy;
+        ZARNTableView view;
+        prepare(view, model, spy, {300, 200});
+        NoticeCounter counter;
+        view.setDelegate(&counter);
+        QVERIFY(paintedCells(view, spy).size() < 20);
+        QCOMPARE(counter.notices, 3 * 200);
+    }
+
+    // As under QTableView, a click on a sortable table's header sorts by that column, and with
+    // items selectable a press selects the column.
+    void headerClickSortsAndSelects()
+    {
+        QTableView qtView;
+        ZARNTableView view;
+        for (QTableView *table : {&qtView, static_cast<QTableView *>(&view)}) {
+            QStandardItemModel model;
+            for (const QString &text : {u"b"_s, u"c"_s, u"a"_s})
+                model.appendRow({new QStandardItem(text), new QStandardItem(text)});
+            table->setModel(&model);
+            table->setSelectionMode(QAbstractItemView::ExtendedSelection);
+            table->setSelectionBehavior(QAbstractItemView::SelectItems);
+            viewkinds::showView(*table, {300, 200});
+            QHeaderView *header = table->horizontalHeader();
+            const QPoint secondSection(header->sectionViewportPosition(1) + 10, header->height() / 2);
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, secondSection);
+            QVERIFY(table->selectionModel()->isColumnSelected(1));
+
+            table->setSortingEnabled(true);
+            QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, secondSection, 500);
+            QCOMPARE(header->sortIndicatorSection(), 1);
+            QCOMPARE(model.item(0)->text(), header->sortIndicatorOrder() == Qt::AscendingOrder ? u"a"_s : u"c"_s);
+            table->setModel(nullptr);
+        }
+    }
+
+    // The outline's rows lose a hidden tall column's height and get it back when it is shown.
+    void hidingATallColumnLaysRowsOut()
+    {
+        QStandardItemModel model;
+        fill(model, 3, 3);
+        model.setHorizontalHeaderLabels({u"Name"_s, u"Tall"_s, u"Kind"_s});
+        SpyDelegate spy;
+        spy.tallColumn = 1;
+        ZARNOutlineView view;
+        prepare(view, model, spy, {400, 300});
+        QCOMPARE(view.visualRect(model.index(0, 0)).height(), 60);
+
+        view.hideColumnWithIdentifier(u"Tall"_s);
+        QVERIFY(view.visualRect(model.index(0, 0)).height() < 60);
+        view.showColumnWithIdentifier(u"Tall"_s);
+        QCOMPARE(view.visualRect(model.index(0, 0)).height(), 60);
+    }
+
+    // Rows as tall as their first column is wide stand for rows of wrapped text: they are laid
+    // out again once a resize that changed a column's width settles, and only while words wrap.
+    void wrappedRowsFollowWidthsOnceAResizeSettles()
+    {
+        QStandardItemModel model;
+        fill(model, 3, 2);
+        SpyDelegate spy;
+        ZARNOutlineView view;
+        spy.rowHeight = [&view] { return view.header()->sectionSize(0) / 4; };
+        prepare(view, model, spy, {400, 300});
+        view.setWordWrap(true);
+        const auto rowHeight = [&] { return view.visualRect(model.index(0, 0)).height(); };
+        const auto widenAndResize = [&] {
+            QTRY_VERIFY(!view.inLiveResize());
+            view.header()->resizeSection(0, view.header()->sectionSize(0) + 40);
+            view.resize(view.size() + QSize(10, 0));
+        };
+        view.doItemsLayout();
+        const int narrow = rowHeight();
+
+        widenAndResize();
+        QCOMPARE(rowHeight(), narrow);
+        QTRY_COMPARE(rowHeight(), narrow + 10);
+
+        view.setWordWrap(false);
+        view.doItemsLayout(); // the layout Qt schedules for the new setting, done now
+        widenAndResize();
         QTRY_VERIFY(!view.inLiveResize());
-        view.header()->resizeSection(0, view.header()->sectionSize(0) + 40);
-        view.resize(view.size() + QSize(10, 0));
-    };
-    view.doItemsLayout();
-    const int narrow = rowHeight();
-
-    widenAndResize();
-    QCOMPARE(rowHeight(), narrow);
-    QTRY_COMPARE(rowHeight(), narrow + 10);
-
-    view.setWordWrap(false);
-    view.doItemsLayout(); // the layout Qt schedules for the new setting, done now
-    widenAndResize();
-    QTRY_VERIFY(!view.inLiveResize());
-    QCOMPARE(rowHeight(), narrow + 10);
-}
-
-void TestQtParity::alternateRowsAreFilled()
-{
-    QStandardItemModel model;
-    fill(model, 4, 2);
-    SpyDelegate spy;
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, Qt::green);
-    ZARNTableView table;
-    ZARNOutlineView outline;
-    for (QAbstractItemView *view : {static_cast<QAbstractItemView *>(&table), static_cast<QAbstractItemView *>(&outline)}) {
-        view->setPalette(palette);
-        view->setItemDelegate(&spy);
-        view->setModel(&model);
-        view->setAlternatingRowColors(true);
-        view->resize(300, 200);
-        const QImage image = brixeltest::renderWidget(*view->viewport());
-        const int rowHeight = view->visualRect(model.index(0, 0)).height();
-        QCOMPARE(brixeltest::colorAt(image, {250, rowHeight / 2}), QColor(Qt::white));
-        QCOMPARE(brixeltest::colorAt(image, {250, rowHeight + rowHeight / 2}), QColor(Qt::green));
-        QCOMPARE(brixeltest::colorAt(image, {250, 3 * rowHeight + rowHeight / 2}), QColor(Qt::green));
+        QCOMPARE(rowHeight(), narrow + 10);
     }
-}
+
+    void alternateRowsAreFilled()
+    {
+        QStandardItemModel model;
+        fill(model, 4, 2);
+        SpyDelegate spy;
+        QPalette palette;
+        palette.setColor(QPalette::Base, Qt::white);
+        palette.setColor(QPalette::AlternateBase, Qt::green);
+        ZARNTableView table;
+        ZARNOutlineView outline;
+        for (QAbstractItemView *view : std::initializer_list<QAbstractItemView *>{&table, &outline}) {
+            view->setPalette(palette);
+            view->setItemDelegate(&spy);
+            view->setModel(&model);
+            view->setAlternatingRowColors(true);
+            view->resize(300, 200);
+            const QImage image = brixeltest::renderWidget(*view->viewport());
+            const int rowHeight = view->visualRect(model.index(0, 0)).height();
+            QCOMPARE(brixeltest::colorAt(image, {250, rowHeight / 2}), QColor(Qt::white));
+            QCOMPARE(brixeltest::colorAt(image, {250, rowHeight + rowHeight / 2}), QColor(Qt::green));
+            QCOMPARE(brixeltest::colorAt(image, {250, 3 * rowHeight + rowHeight / 2}), QColor(Qt::green));
+        }
+    }
+};
 
 QTEST_MAIN(TestQtParity)
 #include "tst_qtparity.moc"
