@@ -68,10 +68,12 @@ private Q_SLOTS:
             };
         };
         QTest::newRow("nothing selected") << SelectionSetUp([](auto &, auto &) {}) << -1;
-        QTest::newRow("current row, any column") << SelectionSetUp([](QItemSelectionModel &s, const QAbstractItemModel &m) {
-            s.select(m.index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-            s.setCurrentIndex(m.index(3, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-        }) << 3;
+        QTest::newRow("current row, any column")
+            << SelectionSetUp([select](QItemSelectionModel &s, const QAbstractItemModel &m) {
+                   select(1)(s, m);
+                   s.setCurrentIndex(m.index(3, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+               })
+            << 3;
         QTest::newRow("unselected current gives the lowest selected row")
             << SelectionSetUp([select](QItemSelectionModel &s, const QAbstractItemModel &m) {
                    select(2)(s, m);
@@ -113,7 +115,8 @@ private Q_SLOTS:
 
         // Five rows; the start row is selected and current.
         const QStringList none, returns{u"return"_s}, deletes{u"delete"_s}, changing{u"changing"_s};
-        const auto row = [](const char *name, int key, int start, bool withDelegate, const QStringList &calls, int selected) {
+        const auto row = [](const char *name, int key, int start, bool withDelegate, const QStringList &calls,
+                            int selected) {
             forEachKind(name, [&](QTestData &data) { data << key << start << withDelegate << calls << selected; });
         };
         row("return", Qt::Key_Return, 1, true, returns, 1);
@@ -187,7 +190,9 @@ private Q_SLOTS:
         const QList<int> before{1, 2};
         const auto both = [](const char *name, const QString &source, std::optional<bool> answer, Click click, int row,
                              const QList<int> &selected, int menuRow) {
-            forEachKind(name, [&](QTestData &data) { data << source << answer << click << row << selected << menuRow << QList<int>{}; });
+            forEachKind(name, [&](QTestData &data) {
+                data << source << answer << click << row << selected << menuRow << QList<int>{};
+            });
         };
         both("right press selects an unselected row alone", u"plain"_s, silent, Click::Right, 4, {4}, 4);
         both("right press without a menu still selects", u"plain"_s, silent, Click::RightWithoutMenu, 4, {4}, -2);
@@ -202,7 +207,8 @@ private Q_SLOTS:
         // The table applies the data source's rule; the outline never asks and keeps a selection.
         const auto table = [](const char *name, const QString &source, std::optional<bool> answer, int row,
                               const QList<int> &selected, const QList<int> &asked) {
-            QTest::addRow("table: %s", name) << Kind::Table << source << answer << Click::Right << row << selected << row << asked;
+            QTest::addRow("table: %s", name)
+                << Kind::Table << source << answer << Click::Right << row << selected << row << asked;
         };
         table("plain model, selected row collapses", u"plain"_s, silent, 2, {2}, {});
         table("not opted in is never asked", u"quiet"_s, no, 4, {4}, {});
@@ -245,7 +251,8 @@ private Q_SLOTS:
 
         QWidget *viewport = view->viewport();
         const QPoint at = row >= 0 ? centreOfRow(*view.view, row) : QPoint(10, viewport->height() - 2);
-        const auto send = [&](QEvent::Type type, Qt::KeyboardModifiers modifiers, Qt::MouseButton button = Qt::LeftButton) {
+        const auto send = [&](QEvent::Type type, Qt::KeyboardModifiers modifiers,
+                              Qt::MouseButton button = Qt::LeftButton) {
             QMouseEvent event(type, at, viewport->mapToGlobal(at), button, button, modifiers);
             QApplication::sendEvent(viewport, &event);
         };

@@ -38,7 +38,8 @@ void fill(QStandardItemModel &model)
 {
     model.setHorizontalHeaderLabels({u"name"_s, u"size"_s, u"kind"_s});
     auto row = [](const QString &name) {
-        return QList<QStandardItem *>{new QStandardItem(name), new QStandardItem(name + u"+"_s), new QStandardItem(name + u"*"_s)};
+        return QList<QStandardItem *>{new QStandardItem(name), new QStandardItem(name + u"+"_s),
+                                      new QStandardItem(name + u"*"_s)};
     };
     auto a = row(u"a"_s);
     auto a1 = row(u"a1"_s);
@@ -135,13 +136,13 @@ private Q_SLOTS:
         QTest::addColumn<bool>("widened"); // a leaf's cell is drawn over the marker's place
 
         // Column 0 is 30 wide and its first 16 pixels hold the marker of "a"; column 1 follows.
-        const std::optional<bool> noAnswer;
+        const std::optional<bool> noAnswer, shows = true, hides = false;
         QTest::newRow("marker shown: the click toggles it") << 15 << true << noAnswer << -1 << true << false;
         QTest::newRow("marker shown: content click stays") << 20 << true << noAnswer << 0 << false << false;
         QTest::newRow("marker hidden: 15 lands at 35, in column 1") << 15 << false << noAnswer << 1 << false << true;
         QTest::newRow("marker hidden: 5 lands at 25, in column 0") << 5 << false << noAnswer << 0 << false << true;
-        QTest::newRow("delegate hides what the view shows") << 15 << true << std::optional<bool>(false) << 1 << false << true;
-        QTest::newRow("delegate shows what the view hides") << 15 << false << std::optional<bool>(true) << -1 << true << false;
+        QTest::newRow("delegate hides what the view shows") << 15 << true << hides << 1 << false << true;
+        QTest::newRow("delegate shows what the view hides") << 15 << false << shows << -1 << true << false;
     }
 
     void hiddenMarkerMovesTheClick()
@@ -160,7 +161,8 @@ private Q_SLOTS:
         const QRect cell = f.view.visualRect(f.item(u"b"_s));
         const QImage image = brixeltest::renderWidget(*f.view.viewport());
         const auto hasText = [&image](const QRect &area) {
-            return !brixeltest::pixelBounds(image.copy(area), [](const QColor &c) { return c.lightness() < 128; }).isNull();
+            const auto isText = [](const QColor &c) { return c.lightness() < 128; };
+            return !brixeltest::pixelBounds(image.copy(area), isText).isNull();
         };
         QCOMPARE(hasText(QRect(cell.left() - 16, cell.top(), 16, cell.height())), widened);
         QVERIFY(hasText(cell.adjusted(-16, 0, 0, 0)));
@@ -230,21 +232,27 @@ private Q_SLOTS:
         const Colors greyed{grey, light};
         const Colors unset{QColor(), QColor()};
         const Colors own{Qt::red, Qt::yellow};
+        const Action hideName = [](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); };
         const auto asNeeded = Qt::ScrollBarAsNeeded;
+        const QList<Action> disableThenEnable{disable, enable};
 
-        QTest::newRow("disabling greys every text cell, bar off") << QList{disable} << greyed << greyed << asNeeded << true << false;
-        QTest::newRow("enabling restores, unset colours too") << QList{disable, enable} << unset << own << asNeeded << true << true;
-        QTest::newRow("a disabled bar stays disabled") << QList{disable, enable} << unset << own << asNeeded << false << false;
+        QTest::newRow("disabling greys every text cell, bar off")
+            << QList{disable} << greyed << greyed << asNeeded << true << false;
+        QTest::newRow("enabling restores, unset colours too")
+            << disableThenEnable << unset << own << asNeeded << true << true;
+        QTest::newRow("a disabled bar stays disabled")
+            << disableThenEnable << unset << own << asNeeded << false << false;
         QTest::newRow("an always-off bar is left alone")
-            << QList{disable, enable} << unset << own << Qt::ScrollBarAlwaysOff << true << true;
-        QTest::newRow("disabling twice saves once") << QList{disable, changeWhileDisabled, disable, enable} << unset << own
-                                                    << Qt::ScrollBarAlwaysOn << false << false;
-        QTest::newRow("a disabled parent greys too") << QList{disableParent} << greyed << greyed << asNeeded << true << false;
+            << disableThenEnable << unset << own << Qt::ScrollBarAlwaysOff << true << true;
+        QTest::newRow("disabling twice saves once")
+            << QList{disable, changeWhileDisabled, disable, enable} << unset << own << Qt::ScrollBarAlwaysOn << false
+            << false;
+        QTest::newRow("a disabled parent greys too")
+            << QList{disableParent} << greyed << greyed << asNeeded << true << false;
         QTest::newRow("and restores") << QList{disableParent, enableParent} << unset << own << asNeeded << true << true;
         // The saved pairs are handed out in column order: a column hidden meanwhile shifts them.
         QTest::newRow("hiding a column while disabled shifts the pairs")
-            << QList{disable, Action([](Fixture &f) { f.view.hideColumnWithIdentifier(u"name"_s); }), enable} << greyed << unset
-            << asNeeded << true << true;
+            << QList{disable, hideName, enable} << greyed << unset << asNeeded << true << true;
     }
 
     void disablingGreysAndRestores()
