@@ -45,13 +45,26 @@ void forEachKind(const char *name, Add add)
         add(QTest::addRow("%s: %s", kind == Kind::Table ? "table" : "outline", name) << kind);
 }
 
-enum class Click { Right, RightWithoutMenu, RightDouble, Control, ControlDouble, Plain, Below, MenuKey, MenuMouse };
+/// A click on the view at a point: a mouse event or a request for the context menu.
+using Click = std::function<void(const AnyView &, QPoint)>;
+
+Click mouse(QEvent::Type type, Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {})
+{
+    return [=](const AnyView &view, QPoint at) {
+        QMouseEvent event(type, at, view->viewport()->mapToGlobal(at), button, button, modifiers);
+        QApplication::sendEvent(view->viewport(), &event);
+    };
+}
+
+Click menuEvent(QContextMenuEvent::Reason reason)
+{
+    return [=](const AnyView &view, QPoint at) {
+        QContextMenuEvent event(reason, at, view->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(view->viewport(), &event);
+    };
+}
 
 } // namespace
-
-using SelectionSetUp = std::function<void(QItemSelectionModel &, const QAbstractItemModel &)>;
-Q_DECLARE_METATYPE(SelectionSetUp)
-Q_DECLARE_METATYPE(Click)
 
 class TestItemViewBehaviour : public QObject
 {
@@ -59,43 +72,32 @@ class TestItemViewBehaviour : public QObject
 private Q_SLOTS:
     void selectedRowItem_data()
     {
-        QTest::addColumn<SelectionSetUp>("setUp");
+        QTest::addColumn<QList<int>>("rows"); // selected whole, in this order
+        QTest::addColumn<QPoint>("current"); // x = row, y = column; made current with the flags
+        QTest::addColumn<int>("flags");
         QTest::addColumn<int>("row");
 
-        const auto select = [](int row) {
-            return [row](QItemSelectionModel &s, const QAbstractItemModel &m) {
-                s.select(m.index(row, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-            };
-        };
-        QTest::newRow("nothing selected") << SelectionSetUp([](auto &, auto &) {}) << -1;
-        QTest::newRow("current row, any column")
-            << SelectionSetUp([select](QItemSelectionModel &s, const QAbstractItemModel &m) {
-                   select(1)(s, m);
-                   s.setCurrentIndex(m.index(3, 1), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-               })
-            << 3;
+        const int selectRows = QItemSelectionModel::Select | QItemSelectionModel::Rows;
+        QTest::newRow("nothing selected") << QList<int>{} << QPoint(-1, -1) << 0 << -1;
+        QTest::newRow("current row, any column") << QList<int>{1} << QPoint(3, 1) << selectRows << 3;
         QTest::newRow("unselected current gives the lowest selected row")
-            << SelectionSetUp([select](QItemSelectionModel &s, const QAbstractItemModel &m) {
-                   select(2)(s, m);
-                   select(1)(s, m);
-                   s.setCurrentIndex(m.index(4, 0), QItemSelectionModel::NoUpdate);
-               })
-            << 1;
+            << QList<int>{2, 1} << QPoint(4, 0) << int(QItemSelectionModel::NoUpdate) << 1;
         QTest::newRow("a single selected cell is no selected row")
-            << SelectionSetUp([](QItemSelectionModel &s, const QAbstractItemModel &m) {
-                   s.setCurrentIndex(m.index(2, 1), QItemSelectionModel::Select);
-               })
-            << -1;
+            << QList<int>{} << QPoint(2, 1) << int(QItemSelectionModel::Select) << -1;
     }
 
     void selectedRowItem()
     {
-        QFETCH(SelectionSetUp, setUp);
+        QFETCH(QList<int>, rows);
+        QFETCH(QPoint, current);
+        QFETCH(int, flags);
         QFETCH(int, row);
         QStandardItemModel model(5, 2);
         QTreeView view;
         view.setModel(&model);
-        setUp(*view.selectionModel(), model);
+        selectRows(view, rows);
+        view.selectionModel()->setCurrentIndex(model.index(current.x(), current.y()),
+                                               QItemSelectionModel::SelectionFlags(flags));
 
         const QModelIndex item = BrixelPrivate::selectedRowItem(&view);
 
@@ -188,27 +190,41 @@ private Q_SLOTS:
         // Rows 1 and 2 of six are selected before the click, row 2 is current.
         const auto yes = std::optional<bool>(true), no = std::optional<bool>(false), silent = std::optional<bool>();
         const QList<int> before{1, 2};
+        const Click right = [](const AnyView &view, QPoint at) {
+            QTest::mousePress(view->viewport(), Qt::RightButton, {}, at);
+        };
+        const Click rightWithoutMenu = [right](const AnyView &view, QPoint at) {
+            view.setMenu(nullptr);
+            right(view, at);
+        };
+        const Click plain = [](const AnyView &view, QPoint at) {
+            QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+        };
+        const Click control = mouse(QEvent::MouseButtonPress, Qt::LeftButton, Qt::MetaModifier);
+        const Click controlDouble = mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::MetaModifier);
+        const Click rightDouble = mouse(QEvent::MouseButtonDblClick, Qt::RightButton);
+        const Click menuKey = menuEvent(QContextMenuEvent::Keyboard), menuMouse = menuEvent(QContextMenuEvent::Mouse);
         const auto both = [](const char *name, const QString &source, std::optional<bool> answer, Click click, int row,
                              const QList<int> &selected, int menuRow) {
             forEachKind(name, [&](QTestData &data) {
                 data << source << answer << click << row << selected << menuRow << QList<int>{};
             });
         };
-        both("right press selects an unselected row alone", u"plain"_s, silent, Click::Right, 4, {4}, 4);
-        both("right press without a menu still selects", u"plain"_s, silent, Click::RightWithoutMenu, 4, {4}, -2);
-        both("right press below the rows", u"quiet"_s, yes, Click::Below, -1, before, -1);
-        both("menu key opens at the current row", u"plain"_s, silent, Click::MenuKey, -1, before, 2);
-        both("mouse menu event leaves it to the press", u"plain"_s, silent, Click::MenuMouse, 4, before, -2);
-        both("a second right click acts as the first", u"plain"_s, silent, Click::RightDouble, 4, {4}, 4);
-        both("control-click selects, then opens the menu", u"plain"_s, silent, Click::Control, 3, {3}, 3);
-        both("control-double-click only opens the menu", u"plain"_s, silent, Click::ControlDouble, 3, before, 3);
-        both("a plain click opens no menu", u"plain"_s, silent, Click::Plain, 3, {3}, -2);
+        both("right press selects an unselected row alone", u"plain"_s, silent, right, 4, {4}, 4);
+        both("right press without a menu still selects", u"plain"_s, silent, rightWithoutMenu, 4, {4}, -2);
+        both("right press below the rows", u"quiet"_s, yes, right, -1, before, -1);
+        both("menu key opens at the current row", u"plain"_s, silent, menuKey, -1, before, 2);
+        both("mouse menu event leaves it to the press", u"plain"_s, silent, menuMouse, 4, before, -2);
+        both("a second right click acts as the first", u"plain"_s, silent, rightDouble, 4, {4}, 4);
+        both("control-click selects, then opens the menu", u"plain"_s, silent, control, 3, {3}, 3);
+        both("control-double-click only opens the menu", u"plain"_s, silent, controlDouble, 3, before, 3);
+        both("a plain click opens no menu", u"plain"_s, silent, plain, 3, {3}, -2);
 
         // The table applies the data source's rule; the outline never asks and keeps a selection.
-        const auto table = [](const char *name, const QString &source, std::optional<bool> answer, int row,
-                              const QList<int> &selected, const QList<int> &asked) {
+        const auto table = [right](const char *name, const QString &source, std::optional<bool> answer, int row,
+                                   const QList<int> &selected, const QList<int> &asked) {
             QTest::addRow("table: %s", name)
-                << Kind::Table << source << answer << Click::Right << row << selected << row << asked;
+                << Kind::Table << source << answer << right << row << selected << row << asked;
         };
         table("plain model, selected row collapses", u"plain"_s, silent, 2, {2}, {});
         table("not opted in is never asked", u"quiet"_s, no, 4, {4}, {});
@@ -218,9 +234,9 @@ private Q_SLOTS:
         table("opted in, no answer", u"asks"_s, silent, 4, before, {4});
         table("opted in, selected row kept", u"asks"_s, yes, 2, before, {});
         QTest::newRow("outline: a refusing data source is not asked")
-            << Kind::Outline << u"asks"_s << no << Click::Right << 4 << QList<int>{4} << 4 << QList<int>{};
+            << Kind::Outline << u"asks"_s << no << right << 4 << QList<int>{4} << 4 << QList<int>{};
         QTest::newRow("outline: a selected row keeps the selection")
-            << Kind::Outline << u"plain"_s << silent << Click::Right << 2 << before << 2 << QList<int>{};
+            << Kind::Outline << u"plain"_s << silent << right << 2 << before << 2 << QList<int>{};
     }
 
     void contextClick()
@@ -249,44 +265,8 @@ private Q_SLOTS:
         selectRows(*view.view, {1, 2});
         view->selectionModel()->setCurrentIndex(view->model()->index(2, 0), QItemSelectionModel::NoUpdate);
 
-        QWidget *viewport = view->viewport();
-        const QPoint at = row >= 0 ? centreOfRow(*view.view, row) : QPoint(10, viewport->height() - 2);
-        const auto send = [&](QEvent::Type type, Qt::KeyboardModifiers modifiers,
-                              Qt::MouseButton button = Qt::LeftButton) {
-            QMouseEvent event(type, at, viewport->mapToGlobal(at), button, button, modifiers);
-            QApplication::sendEvent(viewport, &event);
-        };
-        const auto menuEvent = [&](QContextMenuEvent::Reason reason) {
-            QContextMenuEvent event(reason, at, viewport->mapToGlobal(at));
-            QApplication::sendEvent(viewport, &event);
-        };
-        switch (click) {
-        case Click::RightWithoutMenu:
-            view.setMenu(nullptr);
-            [[fallthrough]];
-        case Click::Right:
-        case Click::Below:
-            QTest::mousePress(viewport, Qt::RightButton, {}, at);
-            break;
-        case Click::Control:
-            send(QEvent::MouseButtonPress, Qt::MetaModifier);
-            break;
-        case Click::ControlDouble:
-            send(QEvent::MouseButtonDblClick, Qt::MetaModifier);
-            break;
-        case Click::RightDouble:
-            send(QEvent::MouseButtonDblClick, {}, Qt::RightButton);
-            break;
-        case Click::Plain:
-            QTest::mouseClick(viewport, Qt::LeftButton, {}, at);
-            break;
-        case Click::MenuKey:
-            menuEvent(QContextMenuEvent::Keyboard);
-            break;
-        case Click::MenuMouse:
-            menuEvent(QContextMenuEvent::Mouse);
-            break;
-        }
+        const QPoint at = row >= 0 ? centreOfRow(*view.view, row) : QPoint(10, view->viewport()->height() - 2);
+        click(view, at);
 
         QCOMPARE(selectedRows(*view.view), selected);
         QCOMPARE(dataSource.asked, asked);
