@@ -38,8 +38,8 @@ QString cellName(int row, int column)
     return u"(%1, %2)"_s.arg(row).arg(column);
 }
 
-/// Notes where Tab moves editing and decides it when told to.
-class TabDelegate : public ZARNTableViewDelegate
+/// Notes where Tab moves editing and decides it when told to; gives rows its highlight image.
+class TestDelegate : public ZARNTableViewDelegate
 {
 public:
     void tableViewWillTabToColumn(ZARNTableView *, int &column, int &row, int fromColumn, int fromRow) override
@@ -52,16 +52,17 @@ public:
     {
         return editableRows ? std::optional<bool>(editableRows->contains(row)) : std::nullopt;
     }
+    std::optional<QImage> tableViewCustomHighlightImageForRow(ZARNTableView *, int) override { return image; }
 
     QStringList tabs;
     std::optional<std::pair<int, int>> redirect;
     std::optional<QList<int>> editableRows;
+    std::optional<QImage> image;
 };
 
 class TestView : public ZARNTableView
 {
 public:
-    using ZARNTableView::closeEditor;
     using ZARNTableView::startDrag;
 
     Qt::DropAction execDrag(QDrag *drag, Qt::DropActions, Qt::DropAction) override
@@ -97,15 +98,7 @@ QLineEdit *editorAt(const QTableView &view, int row, int column)
     return qobject_cast<QLineEdit *>(view.indexWidget(view.model()->index(row, column)));
 }
 
-using Setup = std::function<void(TestView &, DataSourceModel &, TabDelegate &)>;
-
-
-class ImageDelegate : public ZARNTableViewDelegate
-{
-public:
-    std::optional<QImage> tableViewCustomHighlightImageForRow(ZARNTableView *, int) override { return image; }
-    std::optional<QImage> image;
-};
+using Setup = std::function<void(TestView &, DataSourceModel &, TestDelegate &)>;
 
 /// A focused table of 2 columns, 90 wide, in an active window; rows read "r<row>c<column>".
 struct Table
@@ -123,22 +116,6 @@ struct Table
     }
 
     QImage render() { return brixeltest::renderWidget(*view.viewport()); }
-
-    void moveDrag(QPoint position)
-    {
-        std::unique_ptr<QMimeData> data(model.mimeData({model.index(0, 0)}));
-        // As a real drag does: it enters the view, then moves over it.
-        QDragEnterEvent enter(position, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(view.viewport(), &enter);
-        QDragMoveEvent move(position, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(view.viewport(), &move);
-    }
-
-    void leaveDrag()
-    {
-        QDragLeaveEvent event;
-        QCoreApplication::sendEvent(view.viewport(), &event);
-    }
 
     DataSourceModel model;
     ZARNTableView view;
@@ -221,7 +198,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("tabs"); // the delegate's notices, in shown-column terms
 
         // A 4 x 3 table, every cell editable unless the setup says otherwise.
-        const Setup none = [](TestView &, DataSourceModel &, TabDelegate &) {};
+        const Setup none = [](TestView &, DataSourceModel &, TestDelegate &) {};
         const auto setup = [](auto change) { return Setup(change); };
         const int tab = Qt::Key_Tab, backtab = Qt::Key_Backtab, enter = Qt::Key_Return;
 
@@ -230,36 +207,36 @@ private Q_SLOTS:
         QTest::newRow("backtab: first cell wraps, no notice") << backtab << QPoint(0, 0) << none << "(3, 2)" << "";
         QTest::newRow("return: next row, no notice") << enter << QPoint(1, 1) << none << "(2, 1)" << "";
         QTest::newRow("return: back to itself")
-            << enter << QPoint(1, 1) << setup([](TestView &, DataSourceModel &model, TabDelegate &) {
+            << enter << QPoint(1, 1) << setup([](TestView &, DataSourceModel &model, TestDelegate &) {
                    for (int row : {0, 2, 3})
                        model.item(row, 1)->setEditable(false);
                })
             << "(1, 1)" << "";
         QTest::newRow("tab: follows the shown columns")
-            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TabDelegate &) {
+            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TestDelegate &) {
                    view.hideColumnWithIdentifier(u"A"_s);
                    view.showColumnWithIdentifier(u"A"_s); // B, C, A
                    view.hideColumnWithIdentifier(u"B"_s); // C, A
                })
             << "(1, 0)" << "(1, 1) from (1, 0)";
         QTest::newRow("tab: skips read-only columns")
-            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TabDelegate &) {
+            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TestDelegate &) {
                    view.tableColumns().at(0)->setEditable(false);
                })
             << "(2, 1)" << "(2, 1) from (1, 2)";
         QTest::newRow("tab: the delegate decides")
-            << tab << QPoint(1, 1) << setup([](TestView &, DataSourceModel &, TabDelegate &delegate) {
+            << tab << QPoint(1, 1) << setup([](TestView &, DataSourceModel &, TestDelegate &delegate) {
                    delegate.editableRows = QList<int>{3};
                })
             << "(3, 0)" << "(3, 0) from (1, 1)";
         QTest::newRow("tab: the delegate opens a read-only column")
-            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TabDelegate &delegate) {
+            << tab << QPoint(1, 2) << setup([](TestView &view, DataSourceModel &, TestDelegate &delegate) {
                    view.tableColumns().at(0)->setEditable(false);
                    delegate.editableRows = QList<int>{0, 1, 2, 3};
                })
             << "(2, 0)" << "(2, 0) from (1, 2)";
         const auto redirect = [](int row, int column) {
-            return Setup([=](TestView &, DataSourceModel &, TabDelegate &delegate) {
+            return Setup([=](TestView &, DataSourceModel &, TestDelegate &delegate) {
                 delegate.redirect = {row, column};
             });
         };
@@ -282,7 +259,7 @@ private Q_SLOTS:
         DataSourceModel model(4, 3);
         TestView view;
         view.setModel(&model);
-        TabDelegate delegate;
+        TestDelegate delegate;
         view.setDelegate(&delegate);
         QCOMPARE(view.delegate(), &delegate);
         setup(view, model, delegate);
@@ -443,7 +420,7 @@ private Q_SLOTS:
         QFETCH(Expect, expected);
 
         Table table(3);
-        ImageDelegate delegate;
+        TestDelegate delegate;
         QImage red = brixeltest::filledImage({4, 4}, Qt::red);
         if (customImage)
             delegate.image = red;
@@ -586,15 +563,21 @@ private Q_SLOTS:
         table.view.clearFocus();
         const QRect rect = table.view.rectOfRow(row);
         const int y = row < 0 ? 150 : (yInRow < 0 ? rect.bottom() : rect.top() + yInRow);
-        table.moveDrag(QPoint(60, y));
+        std::unique_ptr<QMimeData> data(table.model.mimeData({table.model.index(0, 0)}));
+        // As a real drag does: it enters the view, then moves over it.
+        QDragEnterEvent enter(QPoint(60, y), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(table.view.viewport(), &enter);
+        QDragMoveEvent move(QPoint(60, y), Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(table.view.viewport(), &move);
 
         const QPoint at = probe + (probedRow < 0 ? QPoint() : table.view.rectOfRow(probedRow).topLeft());
         const QColor outline = Brixel::selectionOutlineColor(&table.view);
         const QColor want = alpha > 0 ? over(outline, alpha) : over(Brixel::selectionColor(&table.view), 0.15);
-        QVERIFY2(colorsClose(colorAt(table.render(), at), want, 3),
-                 qPrintable(colorAt(table.render(), at).name() + u" want "_s + want.name()));
+        const QColor got = colorAt(table.render(), at);
+        QVERIFY2(colorsClose(got, want, 3), qPrintable(got.name() + u" want "_s + want.name()));
 
-        table.leaveDrag();
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(table.view.viewport(), &leave);
         QCOMPARE(colorAt(table.render(), at), QColor(Qt::white));
     }
 
