@@ -515,19 +515,18 @@ private Q_SLOTS:
         if (!drawn)
             return;
         const QRect message = inked.translated(area.topLeft());
-        if (!attributed) {   // the default look: the application font, bold, at 15 points
+        // The attributed message carries no alignment and starts at the left of its rectangle,
+        // 10 in from the view's edge; the plain one is centred, in the application font, bold,
+        // at 15 points.
+        if (attributed) {
+            QCOMPARE_LE(qAbs(message.left() - 11), 1);
+        } else {
             QFont font = QGuiApplication::font();
             font.setPointSizeF(15.0);
             font.setBold(true);
-            const qreal width = QFontMetricsF(font).tightBoundingRect(text).width();
-            QCOMPARE_LE(qAbs(message.width() - width), 3);
-        }
-        // The plain message is centred; the attributed one carries no alignment and starts at the
-        // left of its rectangle, 10 in from the view's edge.
-        if (attributed)
-            QCOMPARE_LE(qAbs(message.left() - 11), 1);
-        else
+            QCOMPARE_LE(qAbs(message.width() - QFontMetricsF(font).tightBoundingRect(text).width()), 3);
             QCOMPARE_LE(qAbs(message.center().x() - image.rect().center().x()), 2);
+        }
         QCOMPARE_LE(qAbs(message.center().y() - image.rect().center().y()), 5);
         // Drawn without font smoothing: every inked pixel is the text colour itself.
         for (int y = message.top(); y <= message.bottom(); ++y)
