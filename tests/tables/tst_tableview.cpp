@@ -297,7 +297,6 @@ private Q_SLOTS:
         const auto DragDrop = QAbstractItemView::DragDrop;
         const QList<int> two{1, 2};
         QTest::newRow("copy") << two << DragDrop << false << Qt::CopyAction << "r0 r1 r2 r3 r4";
-        QTest::newRow("ignored") << two << DragDrop << false << Qt::IgnoreAction << "r0 r1 r2 r3 r4";
         QTest::newRow("move removes the rows") << two << DragDrop << false << Qt::MoveAction << "r0 r3 r4";
         QTest::newRow("move in overwrite mode clears")
             << QList<int>{3} << DragDrop << true << Qt::MoveAction << "r0 r1 r2  r4";
@@ -452,7 +451,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("inset");
         QTest::newRow("rectangle") << quint32(ZARNTableView::HighlightStyle::Rectangle) << false;
         QTest::newRow("capsule") << quint32(ZARNTableView::HighlightStyle::Capsule) << true;
-        QTest::newRow("rounded rectangle") << quint32(ZARNTableView::HighlightStyle::RoundedRectangle) << true;
         QTest::newRow("unknown style") << quint32(7) << false;
     }
 
