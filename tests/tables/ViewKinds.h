@@ -7,7 +7,6 @@
 #include <Brixel/ZARNTableViewDataSource.h>
 #include <Brixel/ZARNTableViewDelegate.h>
 
-#include <QDrag>
 #include <QStandardItemModel>
 #include <QTest>
 
@@ -173,11 +172,6 @@ inline void showFocused(QAbstractItemView &view, QSize size)
     view.activateWindow();
     view.setFocus();
     QVERIFY(QTest::qWaitForWindowActive(&view));
-}
-
-inline QPoint centreOfRow(const QAbstractItemView &view, int row)
-{
-    return view.visualRect(view.model()->index(row, 0)).center();
 }
 
 } // namespace viewkinds

@@ -265,7 +265,8 @@ private Q_SLOTS:
         selectRows(*view.view, {1, 2});
         view->selectionModel()->setCurrentIndex(view->model()->index(2, 0), QItemSelectionModel::NoUpdate);
 
-        const QPoint at = row >= 0 ? centreOfRow(*view.view, row) : QPoint(10, view->viewport()->height() - 2);
+        const QPoint at = row >= 0 ? view->visualRect(view->model()->index(row, 0)).center()
+                                   : QPoint(10, view->viewport()->height() - 2);
         click(view, at);
 
         QCOMPARE(selectedRows(*view.view), selected);

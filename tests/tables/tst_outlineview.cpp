@@ -101,7 +101,6 @@ private Q_SLOTS:
         QVERIFY(!view.shouldCollapseAutoExpandedItemsForDeposits());
         QVERIFY(view.shouldCollapseAutoExpandedItemsForFailedDeposits());
         QVERIFY(view.acceptsFirstResponder());
-        QVERIFY(qobject_cast<ZARNTextFieldCell *>(view.itemDelegate()));
         // The library's header, set up as Qt sets up its own.
         auto *header = qobject_cast<ZARNNSTableHeaderView *>(view.header());
         QVERIFY(header);
