@@ -123,8 +123,8 @@ private Q_SLOTS:
         twoFontsWhite.append(highlighted(u"cd"_s, otherRegular));
         QTest::newRow("older: each run keeps its font") << twoFonts << quint32(0x1000) << twoFontsWhite;
 
-        QTest::newRow("empty, older") << ZARNAttributedString() << quint32(0x1039) << ZARNAttributedString();
-        QTest::newRow("empty, newer") << ZARNAttributedString() << quint32(0x1060) << ZARNAttributedString();
+        // Empty text returns before the system version is looked at.
+        QTest::newRow("empty") << ZARNAttributedString() << quint32(0x1060) << ZARNAttributedString();
     }
 
     void highlightedCellText()
