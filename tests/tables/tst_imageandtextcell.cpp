@@ -34,6 +34,15 @@ QStyleOptionViewItem viewOption(const QRect &rect)
     return option;
 }
 
+/// \a cell painted into \a rect of a white 150 x 40 image, for the model's first item.
+QImage painted(const ZARNTextFieldCell &cell, const QRect &rect, const QAbstractItemModel &model)
+{
+    QImage image = filledImage({150, 40}, Qt::white);
+    QPainter painter(&image);
+    cell.paint(&painter, viewOption(rect), model.index(0, 0));
+    return image;
+}
+
 QRect coloured(const QImage &image, const QColor &color)
 {
     return brixeltest::pixelBounds(image,
@@ -110,11 +119,7 @@ private Q_SLOTS:
         cell.setImage(twoBandImage({8, 4}));
         cell.setImageSize({16, 16});
         cell.setImageScaling(scaling);
-        QImage canvas = filledImage({120, 40}, Qt::white);
-        {
-            QPainter painter(&canvas);
-            cell.paint(&painter, viewOption({10, 10, 100, 20}), model.index(0, 0));
-        }
+        const QImage canvas = painted(cell, {10, 10, 100, 20}, model);
         // Smooth scaling blends the edge between the bands; the solid cores are where expected.
         const QRect drawnRed = coloured(canvas, Qt::red);
         const QRect drawnBlue = coloured(canvas, Qt::blue);
@@ -184,16 +189,7 @@ private Q_SLOTS:
             each->setDrawsBackground(true);
             each->setBackgroundColor(Qt::yellow);
         }
-        QImage drawn = filledImage({150, 30}, Qt::white), expected = drawn;
-        {
-            QPainter painter(&drawn);
-            cell.paint(&painter, viewOption({5, 5, 140, 20}), model.index(0, 0));
-        }
-        {
-            QPainter painter(&expected);
-            text.paint(&painter, viewOption({5, 5, 140, 20}), model.index(0, 0));
-        }
-        QCOMPARE(drawn, expected);
+        QCOMPARE(painted(cell, {5, 5, 140, 20}, model), painted(text, {5, 5, 140, 20}, model));
     }
 
     void defaultsAndCopy()
