@@ -45,8 +45,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("centre");
         QTest::addColumn<QPoint>("moved");
 
-        QTest::newRow("on the baseline") << QPointF() << false << QPoint(0, 0);
-        QTest::newRow("three below") << QPointF(0, -3) << false << QPoint(0, 3);
         QTest::newRow("right and up") << QPointF(2, 4) << false << QPoint(2, -4);
         QTest::newRow("centre flag switches the offset off") << QPointF(0, -3) << true << QPoint(0, 0);
     }
