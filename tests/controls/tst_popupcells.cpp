@@ -51,36 +51,33 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("selected");
         QTest::addColumn<quint32>("version");
-        QTest::addColumn<bool>("bold");
-        QTest::addColumn<QColor>("color");
-        QTest::addColumn<bool>("shadow");
+        QTest::addColumn<bool>("boldWithShadow");
 
-        QTest::newRow("unselected") << false << 0x1050u << false << QColor(Qt::black) << false;
-        QTest::newRow("selected, before 0x1040") << true << 0x103Fu << false << QColor(Qt::white) << false;
-        QTest::newRow("selected, from 0x1040") << true << 0x1040u << true << QColor(Qt::white) << true;
+        // Selected titles are white, and from 0x1040 bold with a shadow as well.
+        QTest::newRow("unselected") << false << 0x1050u << false;
+        QTest::newRow("selected, before 0x1040") << true << 0x103Fu << false;
+        QTest::newRow("selected, from 0x1040") << true << 0x1040u << true;
     }
 
     void displayString()
     {
         QFETCH(bool, selected);
         QFETCH(quint32, version);
-        QFETCH(bool, bold);
-        QFETCH(QColor, color);
-        QFETCH(bool, shadow);
+        QFETCH(bool, boldWithShadow);
         const ZARNAttributedString shown = BXPopUpButtonCell::displayStringForTitle(u"Normal"_s, selected, version);
         QCOMPARE(shown.string(), u"Normal"_s);
         const QFont font = shown.attribute(ZARNFontAttributeName, 5).value<QFont>();
-        QCOMPARE(font.bold(), bold);
+        QCOMPARE(font.bold(), boldWithShadow);
         QCOMPARE(font.pointSizeF(), 11.0);
-        QCOMPARE(shown.attribute(ZARNForegroundColorAttributeName, 5).value<QColor>(), color);
-        QCOMPARE(shown.attribute(ZARNShadowAttributeName, 5).isValid(), shadow);
+        QCOMPARE(shown.attribute(ZARNForegroundColorAttributeName, 5).value<QColor>(),
+                 QColor(selected ? Qt::white : Qt::black));
+        QCOMPARE(shown.attribute(ZARNShadowAttributeName, 5).isValid(), boldWithShadow);
     }
 
     void titleLeavesRoomForTheArrows()
     {
         QStandardItemModel model;
         model.appendRow({new QStandardItem(u"A title far too long for its cell"_s), new QStandardItem()});
-        model.setData(model.index(0, 1), QVariant());
         BXPopUpButtonCell cell;
         const QSize size(100, 20);
         const QImage withoutText = paintCell(cell, model.index(0, 1), size);
@@ -126,7 +123,6 @@ private Q_SLOTS:
         const std::unique_ptr<QWidget> editor(cell.createEditor(&parent, {}, model.index(0, 0)));
         auto *comboBox = qobject_cast<QComboBox *>(editor.get());
         QVERIFY(comboBox);
-        QCOMPARE(comboBox->count(), 3);
         cell.setEditorData(comboBox, model.index(0, 0));
         QCOMPARE(comboBox->currentIndex(), 1);
         comboBox->setCurrentIndex(2);
