@@ -36,7 +36,6 @@ private Q_SLOTS:
 
     void missingFormsGiveNull()
     {
-        QVERIFY(makeAlert());
         QVERIFY(!BXAlert::alertWithTitle({}, {}, {}, {}, {}, {}, {}, u"/nonexistent/Alert.ui"_s));
         QVERIFY(!BXAlert::alertWithTitle({}, {}, {}, {}, {}, {}, {}, ZARNProgressWindow::defaultFormPath()));
         QVERIFY(!ZARNProgressWindow::progressWindow(u"/nonexistent/ProgressWindow.ui"_s));
@@ -58,7 +57,6 @@ private Q_SLOTS:
         QFETCH(bool, button2Shown);
         // A wider title moves button 1's left edge, and buttons 2 and 3 with it, by its growth.
         const std::unique_ptr<BXAlert> alert = makeAlert(u"OK"_s, button2Title, u"Other"_s);
-        QCOMPARE(alert->button2Title(), button2Title);
         QPushButton *button1 = alert->button1();
         const int right = button1->geometry().right();
         const QList<int> lefts{button1->x(), alert->button2()->x(), alert->button3()->x()};
@@ -92,13 +90,11 @@ private Q_SLOTS:
 
         alert->setStatement(u"A statement long enough to take three lines in the alert's statement field, which "
                             u"keeps its width while its height follows its text."_s);
-        const int lines = statement->height() / oneLine;
-        QCOMPARE(lines, 3);
+        QCOMPARE(statement->height() / oneLine, 3);
         QCOMPARE(window->height(), windowBefore.height() + statement->height() - oneLine);
         QCOMPARE(window->geometry().bottom(), windowBefore.bottom());
         QCOMPARE(window->height() - alert->button1()->y(), buttonFromBottom);
         QCOMPARE(window->height() - statement->geometry().bottom(), statementFromBottom);
-        QCOMPARE(alert->statement().left(11), u"A statement"_s);
     }
 
     void alertRunsReturnTheTag()
@@ -131,7 +127,8 @@ private Q_SLOTS:
     {
         const std::unique_ptr<ZARNProgressWindow> window(ZARNProgressWindow::progressWindow());
         QVERIFY(window);
-        QVERIFY(window->progressIndicator() && window->titleField() && window->stepField() && window->iconView());
+        QVERIFY(window->progressView() && window->progressIndicator() && window->titleField() && window->stepField()
+                && window->iconView());
         window->resize(400, window->height());
         const int left = window->x();
         const int buttonWidth = window->cancelButton()->width();
