@@ -69,10 +69,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("inputs");
 
         const QPoint at(10, 10);
-        QTest::newRow("left press") << Input([=](QWindow *w) { QTest::mousePress(w, Qt::LeftButton, {}, at); }) << 1
-                                    << 1;
-        QTest::newRow("right press") << Input([=](QWindow *w) { QTest::mousePress(w, Qt::RightButton, {}, at); }) << 0
-                                     << 1;
         QTest::newRow("middle click") << Input([=](QWindow *w) { QTest::mouseClick(w, Qt::MiddleButton, {}, at); }) << 0
                                       << 2;
         QTest::newRow("left drag") << Input([=](QWindow *w) {
@@ -80,8 +76,6 @@ private Q_SLOTS:
             QTest::mouseMove(w, at + QPoint(5, 5));
             QTest::mouseRelease(w, Qt::LeftButton, {}, at + QPoint(5, 5));
         }) << 1 << 3;
-        QTest::newRow("move without buttons") << Input([=](QWindow *w) { QTest::mouseMove(w, at + QPoint(3, 0)); }) << 0
-                                              << 0;
         QTest::newRow("key press") << Input([](QWindow *w) { QTest::keyPress(w, Qt::Key_A); }) << 0 << 1;
         QTest::newRow("key press taken by a shortcut") << Input([](QWindow *w) {
             w->requestActivate();
@@ -151,7 +145,6 @@ private Q_SLOTS:
 
         using Type = ZARNUserAttention::RequestType;
         QTest::newRow("critical") << false << Type::Critical << 42 << 1 << QList<int>{};
-        QTest::newRow("informational") << false << Type::Informational << 42 << 1 << QList<int>{};
         QTest::newRow("short: critical is not made") << true << Type::Critical << 0 << 0 << QList<int>{};
         QTest::newRow("short: informational is cancelled at once") << true << Type::Informational << 42 << 1
                                                                     << QList<int>{42};
@@ -169,7 +162,6 @@ private Q_SLOTS:
         ZARNUserAttention::setCurrent(std::move(recorder));
         auto *application = static_cast<ZARNApplication *>(qApp);
         application->setShortCircuitRequestUserAttention(shortCircuit);
-        QCOMPARE(application->shortCircuitRequestUserAttention(), shortCircuit);
 
         QCOMPARE(application->requestUserAttention(type), result);
         QCOMPARE(recorded.requests.size(), requests);
