@@ -24,15 +24,6 @@ public:
     QList<QWidget *> items;
 };
 
-// A page whose only children span \a top to \a top + \a height.
-QWidget *pageSpanning(int top, int height)
-{
-    auto *page = new QWidget;
-    (new QWidget(page))->setGeometry(10, top, 50, 20);
-    (new QWidget(page))->setGeometry(10, top + height - 30, 50, 30);
-    return page;
-}
-
 } // namespace
 
 class TestTabView : public QObject
@@ -72,37 +63,10 @@ private Q_SLOTS:
         auto *tabs = new ZARNTabView(&window);
         tabs->setGeometry(0, 0, 400, 300);
         tabs->addTab(new QWidget, QStringLiteral("Empty"));
-        tabs->addTab(pageSpanning(50, 200), QStringLiteral("Tall"));
-        Recorder recorder;
-        tabs->setDelegate(&recorder);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const QPoint topLeft = window.geometry().topLeft();
-        const int chrome = tabs->height() - tabs->currentWidget()->height();
-
-        tabs->setCurrentIndex(1);
-        // The tab view's chrome, the children's 200 and 35.
-        QCOMPARE(tabs->height(), chrome + 200 + 35);
-        QCOMPARE(window.height(), 300 + (chrome + 235 - 300));
-        QCOMPARE(window.geometry().topLeft(), topLeft);
-        const QRect extent = tabs->currentWidget()->childrenRect();
-        QCOMPARE(extent.top(), 15);
-        QCOMPARE(recorder.windowHeights, QList<int>{window.height()});
-
-        // A page without children leaves the window alone.
-        const int height = window.height();
-        tabs->setCurrentIndex(0);
-        QCOMPARE(window.height(), height);
-        QCOMPARE(recorder.items.size(), 2);
-    }
-
-    void customViewInstalledAfterTheResize()
-    {
-        QWidget window;
-        window.setGeometry(50, 60, 400, 300);
-        auto *tabs = new ZARNTabView(&window);
-        tabs->setGeometry(0, 0, 400, 300);
-        tabs->addTab(new QWidget, QStringLiteral("First"));
+        auto *tall = new QWidget;   // its children span 50 to 250
+        (new QWidget(tall))->setGeometry(10, 50, 50, 20);
+        (new QWidget(tall))->setGeometry(10, 220, 50, 30);
+        tabs->addTab(tall, QStringLiteral("Tall"));
         auto *item = new ZARNTabViewItem;
         auto *custom = new QWidget;
         custom->resize(300, 260);
@@ -110,16 +74,35 @@ private Q_SLOTS:
         item->setCustomView(custom);
         tabs->addTab(item, QStringLiteral("Custom"));
         tabs->setWindowResizeMode(1);
+        Recorder recorder;
+        tabs->setDelegate(&recorder);
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        const QSize pageArea = tabs->currentWidget()->size();
         const QPoint topLeft = window.geometry().topLeft();
+        const int chrome = tabs->height() - tabs->currentWidget()->height();
         field->setFocus();
 
         tabs->setCurrentIndex(1);
-        QCOMPARE(window.size(), QSize(400 + 300 - pageArea.width(), 300 + 260 - pageArea.height()));
+        // The tab view's chrome, the children's 200 and 35.
+        QCOMPARE(tabs->height(), chrome + 200 + 35);
+        QCOMPARE(window.height(), 300 + (chrome + 235 - 300));
+        QCOMPARE(window.geometry().topLeft(), topLeft);
+        QCOMPARE(tabs->currentWidget()->childrenRect().top(), 15);
+        QCOMPARE(recorder.windowHeights, QList<int>{window.height()});
+
+        // A page without children leaves the window alone.
+        const QSize size = window.size();
+        tabs->setCurrentIndex(0);
+        QCOMPARE(window.size(), size);
+        QCOMPARE(recorder.items.size(), 2);
+
+        // A custom view is installed after the window is resized around it.
+        const QSize pageArea = tabs->currentWidget()->size();
+        tabs->setCurrentIndex(2);
+        QCOMPARE(window.size(), size + QSize(300, 260) - pageArea);
         QCOMPARE(window.geometry().topLeft(), topLeft);
         QVERIFY(custom->isVisible());
+        QVERIFY(field->hasFocus());
         QCOMPARE(custom->parentWidget(), item);
     }
 
