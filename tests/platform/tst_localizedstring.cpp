@@ -34,9 +34,7 @@ private Q_SLOTS:
         HoursTranslator translator;
         QCoreApplication::installTranslator(&translator);
         QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("Stunden"));
-        QCOMPARE(Brixel::ZARNLocalizedString("days"), QStringLiteral("days"));
         QCoreApplication::removeTranslator(&translator);
-        QCOMPARE(Brixel::ZARNLocalizedString("hours"), QStringLiteral("hours"));
     }
 };
 
