@@ -93,8 +93,8 @@ private Q_SLOTS:
         QFETCH(int, expected);
         QCOMPARE(Brixel::ZARNRoundToNearestIncrement(value, increment), expected);
     }
-    // Last: the library's translator stays installed once loaded.
 
+    // Last: the library's translator stays installed once loaded.
     void translatedUnits_data()
     {
         QTest::addColumn<QLocale>("locale");
