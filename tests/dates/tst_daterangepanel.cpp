@@ -110,6 +110,8 @@ private Q_SLOTS:
         QCOMPARE(panel.okButton()->geometry().right(), panel.width() - 7 - 1);
         QCOMPARE(panel.okButton()->geometry().bottom(), panel.height() - 10 - 1);
         QCOMPARE(panel.fromLabel()->text(), u"From:"_s);
+        QCOMPARE(panel.windowTitle(), u"Enter Date Range"_s);
+        QCOMPARE(panel.okButton()->shortcut(), QKeySequence(Qt::Key_Return));
         QVERIFY(panel.windowFlags().testFlag(Qt::WindowTitleHint));
         QVERIFY(!panel.windowFlags().testFlag(Qt::WindowCloseButtonHint));
         if (auto *field = qobject_cast<QLineEdit *>(from))

@@ -127,6 +127,9 @@ private Q_SLOTS:
         QCOMPARE(picker.monthField()->geometry().bottom() + 1 + 2, picker.monthTitleField()->y());
         QVERIFY(picker.yearField()->width() > picker.dayField()->width());
         QCOMPARE(picker.dayField()->width(), picker.monthField()->width());
+        // Entry fields are as tall as a line edit asks to be; separators as large as their "/".
+        QCOMPARE(picker.dayField()->height(), picker.dayField()->sizeHint().height());
+        QCOMPARE(picker.separatorField()->size(), picker.separatorField()->sizeHint());
     }
 };
 

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextToSpeech>
+#include <QtMultimedia/qtmultimediaversion.h>
 
 using namespace Qt::StringLiterals;
 
@@ -71,14 +72,15 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(duration >= 0, 10000);
         if (QMediaDevices::defaultAudioOutput().isNull())
             QSKIP("no audio output device and no pulseaudio to make one, so the sound's length was not checked");
-        QVERIFY2(duration > 0.1, qPrintable(QString::number(duration)));
+        QVERIFY2(duration > 0.1 && duration < 10, qPrintable(QString::number(duration)));
     }
 
     void volumesAndMediaFacts()
     {
         const ZARNMediaFacts &facts = ZARNMediaFacts::system();
-        QCOMPARE(Brixel::ZARNQuickTimeVersionString().section(u'.', 0, 0), u"6"_s);
+        QCOMPARE(Brixel::ZARNQuickTimeVersionString(), QLatin1String(QTMULTIMEDIA_VERSION_STR));
         QVERIFY(facts.readableSoundFileTypes().contains(u"wav"_s));
+        QVERIFY(!facts.encoders().isEmpty());
         for (const ZARNMediaEncoder &encoder : facts.encoders())
             QVERIFY(!encoder.name.isEmpty() && encoder.subtype != 0);
 

@@ -105,6 +105,9 @@ private Q_SLOTS:
         QVERIFY(ZARNSpeechSynthesizer::isSpeaking());
         ZARNSpeechSynthesizer::stopSpeaking();
         QVERIFY(!shared->isSpeakingList() && !ZARNSpeechSynthesizer::speechSynthesizer().isSpeaking());
+        ZARNSpeechSynthesizer::speakStrings({u"two"_s}, 0.5);
+        QVERIFY(shared->isSpeakingList());
+        ZARNSpeechSynthesizer::stopSpeaking();
     }
 
     void timerDrivesTheListInRealTime()
