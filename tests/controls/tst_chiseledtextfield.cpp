@@ -8,6 +8,7 @@
 
 #include <QDataStream>
 #include <QDialog>
+#include <QLabel>
 #include <QMainWindow>
 #include <QTest>
 
@@ -98,6 +99,8 @@ private Q_SLOTS:
         else
             field.setFont(font);
         field.setAlignment(alignment);
+        field.setMargin(2);
+        field.setIndent(6);
         if (attributed)
             field.setAttributedStringValue(ZARNAttributedString(u"Library"_s, {{ZARNFontAttributeName, font}}));
         else
@@ -117,6 +120,20 @@ private Q_SLOTS:
         QCOMPARE(engraving.left(), own.left());
         QCOMPARE(engraving.right(), own.right());
         QCOMPARE(engraving.bottom(), own.bottom() + 1);
+        if (attributed)
+            return;
+
+        // The text itself sits where a label with the same margin, indent and alignment puts it
+        // (to a pixel or so: the label's glyphs are smoothed).
+        QLabel label(u"Library"_s);
+        label.setFont(font);
+        label.setAlignment(alignment);
+        label.setMargin(2);
+        label.setIndent(6);
+        label.resize(field.size());
+        const QImage plain = renderOverWhite(label);
+        const QRect placed = brixeltest::pixelBounds(plain, [](const QColor &pixel) { return pixel.lightness() < 128; });
+        QVERIFY2((placed.center() - own.center()).manhattanLength() <= 2, qPrintable(QDebug::toString(placed)));
     }
 
     void states_data()
