@@ -99,7 +99,7 @@ private Q_SLOTS:
     void selectedSegmentLooksPressed()
     {
         brixeltest::useTestFont();
-        ZARNSegmentedControlBase control;
+        ZARNSegmentedControl control;
         control.setSegmentCount(2);
         control.setLabel(u"One"_s, 0);
         control.setLabel(u"Two"_s, 1);
@@ -220,12 +220,15 @@ private Q_SLOTS:
         ZARNSegmentedControlButton button;
         QImage red = brixeltest::filledImage(imageSize, Qt::red);
         button.setImage(red);
+        button.setSegmentCount(1);
         button.resize(bounds);
         const QImage shown = brixeltest::renderWidget(button);
         // y counts from the bottom: the image's top row is bounds height - y - image height.
         const QRect expected = QRect(QPoint(origin.x(), bounds.height() - origin.y() - imageSize.height()), imageSize)
                                    .intersected(QRect(QPoint(0, 0), bounds));
         QCOMPARE(brixeltest::pixelBounds(shown, [](const QColor &c) { return c == QColor(Qt::red); }), expected);
+        // The segment's face shows around the image.
+        QVERIFY(shown.pixelColor(3, bounds.height() / 2) != button.palette().color(QPalette::Window));
     }
 };
 
