@@ -92,10 +92,17 @@ private Q_SLOTS:
         const QImage image = render(string, rect);
         const QFontMetricsF metrics(bigFont());
         const qreal advance = metrics.horizontalAdvance(u"Wx"_s);
+        // Each line's glyphs sit as high in their line as QPainter puts them on a baseline one ascent down.
+        QImage reference = brixeltest::filledImage({200, int(lineHeight())}, Qt::white);
+        QPainter painter(&reference);
+        painter.setFont(bigFont());
+        painter.drawText(QPointF(0, metrics.ascent()), u"Wx"_s);
+        const int inkTop = brixeltest::pixelBounds(reference, isInk).top();
         for (int line = 0; line < lineAlignments.size(); ++line) {
             const QImage band = image.copy(0, int(rect.y() + line * lineHeight()), image.width(), int(lineHeight()));
             const QRect ink = brixeltest::pixelBounds(band, isInk);
             QVERIFY2(!ink.isNull(), qPrintable(u"line %1 drew nothing"_s.arg(line)));
+            QCOMPARE(ink.top(), inkTop);
             const Qt::Alignment alignment = lineAlignments.at(line);
             const qreal expectedLeft = rect.x()
                 + (alignment == Qt::AlignRight ? rect.width() - advance

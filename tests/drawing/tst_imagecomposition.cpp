@@ -94,7 +94,7 @@ private Q_SLOTS:
 
         const Compose over(
             [] { return Brixel::ZARNStretchImageOverImage(redTopThird(), filledImage({60, 60}, Qt::blue)); });
-        row("over: frame", over, {30, 5}, red);
+        row("over: frame from the top row", over, {30, 0}, red);
         row("over: target underneath", over, {30, 40}, Qt::blue);
         row("over: null target", [] { return Brixel::ZARNStretchImageOverImage(filledImage({4, 4}, Qt::red), {}); }, {},
             null);
