@@ -122,6 +122,11 @@ private Q_SLOTS:
         const float exact = attributedStringWidth(text) + 4.0f;
         QCOMPARE(Brixel::TruncateAttributedString(text, exact), text);
         QVERIFY(Brixel::TruncateAttributedString(text, exact - 0.5f).string().endsWith(u"..."_s));
+        // The dots are narrower than a large W, so they can take its place and keep the rest.
+        const ZARNAttributedString wide(u"abW"_s, attributes(60));
+        const ZARNAttributedString dotted(u"ab..."_s, attributes(60));
+        QVERIFY(attributedStringWidth(dotted) < attributedStringWidth(wide));
+        QCOMPARE(Brixel::TruncateAttributedString(wide, attributedStringWidth(dotted) + 4.0f), dotted);
         // Only the dots are left, even though they do not fit either.
         QCOMPARE(Brixel::TruncateAttributedString(text, 5).string(), u"..."_s);
         QCOMPARE(Brixel::TruncateStringWithAttributes(text.string(), attributes(12), -100), u"..."_s);
