@@ -250,8 +250,8 @@ private Q_SLOTS:
         QFETCH(int, menuRow);
         QFETCH(QList<int>, asked);
 
-        DataSourceModel dataSource(6, 2);
-        QStandardItemModel plain(6, 2);
+        DataSourceModel dataSource(6, 1); // one column: the menu notes its row by the first cell
+        QStandardItemModel plain(6, 1);
         dataSource.responds = source == u"asks";
         dataSource.answer = answer;
         AnyView view(kind);
