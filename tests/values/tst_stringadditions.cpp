@@ -20,7 +20,7 @@ private Q_SLOTS:
             << u" !#$%&'()*+\t,\u0001"_s << QStringList{u" !#$%&'()*+\t"_s, u"\u0001"_s};
         QTest::newRow("first field cannot be quoted") << u"\"a,b\",c"_s << QStringList{u"a"_s, u"b"_s, u"c"_s};
         QTest::newRow("later field keeps its commas") << u"x,\"a,b\",c"_s << QStringList{u"x"_s, u"a,b"_s, u"c"_s};
-        QTest::newRow("doubled quote unquoted gives one") << u"a\"\"b"_s << QStringList{u"a\"b"_s};
+        QTest::newRow("doubled quote unquoted gives one") << u"a\"\"b,c\"\""_s << QStringList{u"a\"b"_s, u"c\""_s};
         QTest::newRow("doubled quote quoted stays doubled")
             << u",\"a\"\"b\","_s << QStringList{u""_s, u"a\"\"b"_s, u""_s};
         QTest::newRow("empty quoted field") << u"x,\"\",y"_s << QStringList{u"x"_s, u""_s, u"y"_s};
